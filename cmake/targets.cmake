@@ -1,0 +1,41 @@
+# The project's libraries, in the order in which they may use each other. The folders add their
+# sources to them with target_sources.
+
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTOUIC ON)
+set(CMAKE_AUTORCC ON)
+
+# The interfaces of the document library: headers alone.
+add_library(docaccess INTERFACE)
+target_include_directories(docaccess INTERFACE ${PROJECT_SOURCE_DIR})
+target_link_libraries(docaccess INTERFACE Qt6::Core Qt6::Gui docbench_flags)
+
+# The settings store, which both the program and the document library read and write.
+add_library(docbench_settings STATIC)
+target_include_directories(docbench_settings PUBLIC ${PROJECT_SOURCE_DIR})
+target_link_libraries(docbench_settings PUBLIC Qt6::Core docbench_flags)
+
+# Services, cells and the widget-free half of every subsystem. Qt Widgets stays out of it. Shared, so
+# that a host and the controls have one set of the process-wide variables.
+add_library(docbench_core SHARED)
+set_target_properties(docbench_core PROPERTIES
+    CXX_VISIBILITY_PRESET default VISIBILITY_INLINES_HIDDEN OFF)
+target_include_directories(docbench_core PUBLIC ${PROJECT_SOURCE_DIR})
+target_link_libraries(docbench_core
+    PUBLIC docaccess Qt6::Core Qt6::Gui
+    PRIVATE docbench_settings Qt6::DBus)
+target_precompile_headers(docbench_core PRIVATE <QtCore> <QtGui>)
+
+# The panes. The shared library shows hosts the classes marked DOCBENCH_EXPORT and nothing else; tests
+# take the objects, to reach the rest.
+add_library(docbench_controls_objects OBJECT)
+target_include_directories(docbench_controls_objects PUBLIC ${PROJECT_SOURCE_DIR})
+target_compile_definitions(docbench_controls_objects PRIVATE DOCBENCH_BUILDING_CONTROLS)
+target_link_libraries(docbench_controls_objects
+    PUBLIC docbench_core Qt6::Widgets Qt6::Svg)
+target_precompile_headers(docbench_controls_objects PRIVATE <QtWidgets>)
+
+add_library(docbench_controls SHARED)
+target_link_libraries(docbench_controls
+    PUBLIC docbench_core Qt6::Widgets
+    PRIVATE docbench_controls_objects)

@@ -1,0 +1,63 @@
+#include "tests/support/testdialogs.h"
+
+#include <QTest>
+
+#include "services/seams.h"
+
+namespace docbench {
+
+TestDialogs::TestDialogs() : former_(gSeams.dialogs) { gSeams.dialogs = this; }
+
+TestDialogs::~TestDialogs() {
+    gSeams.dialogs = former_;
+    for (const Expected& missing : expected_)
+        QTest::qFail(qPrintable(QStringLiteral("dialog did not come: ") + missing.text), __FILE__,
+                     __LINE__);
+}
+
+void TestDialogs::Expect(const QString& text, Icon icon, Answer answer) {
+    expected_.append({Kind::Box, text, icon, answer});
+}
+
+void TestDialogs::ExpectOpenFile(const QString& answer) {
+    expected_.append({Kind::OpenFile, answer, Icon::None, Answer::Ok});
+}
+
+void TestDialogs::ExpectBrowseFolder(const QString& answer) {
+    expected_.append({Kind::BrowseFolder, answer, Icon::None, Answer::Ok});
+}
+
+Dialogs::Answer TestDialogs::Box(const QString& text, Icon icon, const QString& title, Buttons) {
+    lastTitle_ = title;
+    const Expected expected = Take(Kind::Box, text);
+    const bool fits = expected.text.endsWith(u'*')
+                          ? text.startsWith(QStringView(expected.text).chopped(1))
+                          : text == expected.text;
+    if (!fits || icon != expected.icon)
+        QTest::qFail(qPrintable(QStringLiteral("box \"%1\" (%2) instead of \"%3\" (%4)")
+                                    .arg(text)
+                                    .arg(int(icon))
+                                    .arg(expected.text)
+                                    .arg(int(expected.icon))),
+                     __FILE__, __LINE__);
+    return expected.answer;
+}
+
+QString TestDialogs::OpenFile(const QString& title, const QString&) {
+    lastTitle_ = title;
+    return Take(Kind::OpenFile, title).text;
+}
+
+QString TestDialogs::BrowseFolder(const QString& title, const QString&) {
+    lastTitle_ = title;
+    return Take(Kind::BrowseFolder, title).text;
+}
+
+TestDialogs::Expected TestDialogs::Take(Kind kind, const QString& what) {
+    if (!expected_.isEmpty() && expected_.first().kind == kind)
+        return expected_.takeFirst();
+    QTest::qFail(qPrintable(QStringLiteral("unexpected dialog: ") + what), __FILE__, __LINE__);
+    return {kind, QString(), Icon::None, Answer::Ok};
+}
+
+}  // namespace docbench

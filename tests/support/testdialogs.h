@@ -1,0 +1,44 @@
+// The dialogs of a test: expected messages with their answers, in order.
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include "services/dialogs.h"
+
+namespace docbench {
+
+// Fails the running test on a message that was not expected, that differs from the expected one, and,
+// when it is destroyed, on one that did not come.
+class TestDialogs : public Dialogs {
+public:
+    TestDialogs();  // makes itself the program's dialogs until it is destroyed
+    ~TestDialogs() override;
+
+    // `text` is the whole message; with a "*" at its end, its beginning.
+    void Expect(const QString& text, Icon icon = Icon::Exclamation, Answer answer = Answer::Ok);
+    void ExpectOpenFile(const QString& answer);
+    void ExpectBrowseFolder(const QString& answer);
+    bool AllCame() const { return expected_.isEmpty(); }
+    const QString& LastTitle() const { return lastTitle_; }  // of the last dialog of any kind
+
+    Answer Box(const QString& text, Icon icon, const QString& title, Buttons buttons) override;
+    QString OpenFile(const QString& title, const QString& filter) override;
+    QString BrowseFolder(const QString& title, const QString& start) override;
+
+private:
+    enum class Kind { Box, OpenFile, BrowseFolder };
+    struct Expected {
+        Kind kind;
+        QString text;
+        Icon icon;
+        Answer answer;
+    };
+    Expected Take(Kind kind, const QString& what);
+
+    QList<Expected> expected_;
+    QString lastTitle_;
+    Dialogs* former_;
+};
+
+}  // namespace docbench
