@@ -1,0 +1,27 @@
+// The modal dialogs of the program, behind one seam: no other file names a message or file dialog.
+#pragma once
+
+#include <QString>
+
+namespace docbench {
+
+class Dialogs {
+public:
+    // The numbers are those that messages are told with.
+    enum class Icon { None = 0, Stop = 16, Question = 32, Exclamation = 48, Information = 64 };
+    enum class Buttons { Ok = 0, OkCancel = 1, YesNoCancel = 3, YesNo = 4 };
+    enum class Answer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
+
+    virtual ~Dialogs() = default;
+
+    // Shows a message and waits for the answer. Closing the box answers Cancel where there is such a
+    // button, else No, else Ok.
+    virtual Answer Box(const QString& text, Icon icon, const QString& title,
+                       Buttons buttons = Buttons::Ok) = 0;
+
+    // `filter` is in the form "Label|*.a;*.b|Label|*.c". Empty on cancel.
+    virtual QString OpenFile(const QString& title, const QString& filter) = 0;
+    virtual QString BrowseFolder(const QString& title, const QString& start) = 0;  // empty on cancel
+};
+
+}  // namespace docbench

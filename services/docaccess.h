@@ -1,0 +1,195 @@
+// What the rest of the system knows of a document: the objects of the document access library.
+#pragma once
+
+#include <QFont>
+#include <QString>
+#include <QVariant>
+#include <QtPlugin>
+#include <exception>
+#include <memory>
+#include <utility>
+
+namespace docbench {
+
+// Raised by every failing operation of the library. The description is a whole sentence for the user:
+// it names the file, the reason and, where there is something to do, what.
+class Q_DECL_EXPORT DocumentError : public std::exception {
+public:
+    explicit DocumentError(QString description)
+        : description_(std::move(description)), bytes_(description_.toUtf8()) {}
+    const QString& Description() const { return description_; }
+    const char* what() const noexcept override { return bytes_.constData(); }
+
+private:
+    QString description_;
+    QByteArray bytes_;
+};
+
+// One row of the component table: a part or subassembly placed in an assembly or shown by a drawing.
+struct ComponentRow {
+    QString name;       // title: the file name of `path` without its extension
+    QString extension;  // of `path`, without the dot
+    QString path;       // cleaned local path, or URL
+    int count = 1;      // instances, at least 1
+};
+
+// One row of the external table: an in-context link, a derived or a mirrored part.
+struct ExternalRow {
+    QString name;
+    QString extension;
+    QString path;
+    QString kind;  // the label that the tree shows in brackets
+};
+
+struct CustomProperty {
+    QString name;
+    QVariant value;  // QString, QDateTime, double or bool, as `type` says
+    int type = 0;    // 0 text, 1 date, 2 number, 3 yes or no
+};
+
+// The tables that a stamp can be asked for.
+enum class Table { Components, ExternalReferences, Configurations, Hyperlinks };
+
+// A document's summary and custom properties and its lock record; or, as GetCustomProperties of a
+// DocumentFile gives it, the custom properties of one configuration, whose summary fields stay empty.
+class DocumentInfo {
+public:
+    virtual ~DocumentInfo() = default;
+
+    // Binds the object to the file. False, never an error, when the file is not there, can't be read
+    // or holds no such record; the object is then unbound and every other call raises.
+    virtual bool Open(const QString& path) = 0;
+
+    virtual QString GetTitle() = 0;
+    virtual void SetTitle(const QString& text) = 0;
+    virtual QString GetAuthor() = 0;
+    virtual void SetAuthor(const QString& text) = 0;
+    virtual QString GetComments() = 0;
+    virtual void SetComments(const QString& text) = 0;
+    virtual QString GetKeywords() = 0;
+    virtual void SetKeywords(const QString& text) = 0;
+    virtual QString GetSubject() = 0;
+    virtual void SetSubject(const QString& text) = 0;
+    virtual QString GetCreated() = 0;      // by the user's locale; empty when not stored
+    virtual QString GetLastSavedBy() = 0;
+    virtual QString GetLastSaved() = 0;    // by the user's locale
+
+    virtual int GetCustomCount() = 0;
+    virtual CustomProperty GetCustomProperty(int index) = 0;  // index from 0
+    // Adds or overwrites. The stored type follows the value's: date and time, double, bool, else text.
+    // False when the name is empty or can't be stored.
+    virtual bool SetCustomProperty(const QString& name, const QVariant& value) = 0;
+    virtual bool DeleteCustomProperty(const QString& name) = 0;  // false when there is none
+
+    // Writes what this object changed, and only that. Raises when somebody else has changed the same
+    // properties since Open, and when the file can't be written; the file is then as it was.
+    virtual void Save() = 0;
+
+    virtual bool GetLocked() = 0;
+    virtual void SetLocked(bool locked) = 0;
+    virtual QString GetLockedBy() = 0;
+    virtual void SetLockedBy(const QString& user) = 0;
+
+    // Digest of the properties as they were at Open or at the last own Save, leaving out dates, last
+    // saver and lock. Two equal stamps mean that nobody changed the properties in between.
+    virtual QByteArray GetStamp() = 0;
+};
+
+// One document's references, configurations and hyperlinks. Positions count from 0 and hold until the
+// object is saved.
+class DocumentFile {
+public:
+    virtual ~DocumentFile() = default;
+
+    // Binds the object to the file at a local path and reads it. Raises when it can't be read; the
+    // object is then unbound and every other call but Open, OpenHyperlinks and GetAccessState raises.
+    virtual void Open(const QString& path) = 0;
+    virtual int GetComponentCount() = 0;
+    virtual int GetConfigurationCount() = 0;
+    // Writes what was changed through this object, and only that; writes the record even if nothing
+    // was. Raises when a table that it writes was changed by somebody else since Open, and when the
+    // file can't be written; the file is then as it was.
+    virtual void Save() = 0;
+    virtual QString GetConfiguration(int index) = 0;  // the configuration's name
+    // Renames in memory. Status 0: done, else: no such id, or the name is empty or taken.
+    virtual int RenameConfiguration(int id, const QString& newName) = 0;
+    virtual int GetConfigurationType(int index) = 0;  // 0 ordinary, 1 not to be deleted, other: internal
+    // Deletes in memory; ids keep their meaning until Save, and deleting again succeeds. Mode is 2.
+    // Status 0: done, else: no such id, or the configuration may not be deleted.
+    virtual int DeleteConfiguration(int id, int mode) = 0;
+
+    virtual void OpenHyperlinks(const QString& path) = 0;  // instead of Open, for the four below
+    virtual int GetHyperlinkCount() = 0;
+    virtual QString GetHyperlink(int index) = 0;
+    virtual void SetHyperlink(int index, const QString& text) = 0;
+    virtual void SaveHyperlinks() = 0;
+
+    virtual void SetComponentPath(int index, const QString& newPath) = 0;
+    // The property set of configuration `which`; null when there is no such configuration.
+    virtual std::unique_ptr<DocumentInfo> GetCustomProperties(int which) = 0;
+    virtual int GetExternalReferenceCount() = 0;
+    virtual void SetExternalReferencePath(int index, const QString& newPath) = 0;
+    virtual bool IsCurrentFormat() = 0;  // false: too old for the tables
+    // Whether the document may be written now: 0 yes, 2 read-only, 3 in use by another process, 4 any
+    // other reason. Needs no Open.
+    virtual int GetAccessState(const QString& path) = 0;
+    virtual bool GetReferencesLocked() = 0;
+    // `webFolder` is the URL of the document's folder, ending in "/", for a copy of a web document, so
+    // that relative rows come back as URLs; else empty.
+    virtual ComponentRow GetComponent(int index, const QString& webFolder) = 0;
+    virtual ExternalRow GetExternalReference(int index, const QString& webFolder) = 0;
+
+    // Digest of a table as it was at Open or at the last own Save. A position found by a search is
+    // good for writing only while the stamp is the one that the search saw.
+    virtual QByteArray GetStamp(Table table) = 0;
+};
+
+// Reads and writes the values of one settings key.
+class FolderSearcher {
+public:
+    virtual ~FolderSearcher() = default;
+
+    virtual int GetRegistryValueCount() = 0;
+    // Name and value of the value at `index`, in the key's order from 0; empty texts beyond the end.
+    virtual std::pair<QString, QString> EnumRegistryValue(int index) = 0;
+    // Status 0: written. Any other: not.
+    virtual int SetRegistryValue(const QString& name, const QString& value) = 0;
+    virtual QString GetRegistryValue(const QString& name) = 0;  // empty when missing
+    // Status 0: the value was NOT deleted. Any other: it was.
+    virtual int DeleteRegistryValue(const QString& name) = 0;
+    // Status 0: open. The key lies under the current user, levels separated by "\".
+    virtual int OpenRegistryKey(const QString& keyPath) = 0;
+};
+
+class PreviewExtractor {
+public:
+    virtual ~PreviewExtractor() = default;
+    // Writes the preview stored in `path` to `bitmapPath` as a bitmap, replacing what is there.
+    // 0: done, -2: the document stores no preview, -1: failed.
+    virtual int ExtractPreview(const QString& path, const QString& bitmapPath) = 0;
+};
+
+class LanguageSettings {
+public:
+    virtual ~LanguageSettings() = default;
+    // Folder of the user's language below the program's folder, with a leading separator, or empty.
+    virtual QString GetLanguageFolder() = 0;
+    // Makes a font fit the user's locale; leaves it alone for most.
+    virtual void ApplyLocaleFont(QFont& font) = 0;
+};
+
+// Makes the library's objects, one at each call.
+class DocumentAccess {
+public:
+    virtual ~DocumentAccess() = default;
+    virtual std::unique_ptr<DocumentFile> MakeDocumentFile() = 0;
+    virtual std::unique_ptr<DocumentInfo> MakeDocumentInfo() = 0;
+    virtual std::unique_ptr<FolderSearcher> MakeFolderSearcher() = 0;
+    virtual std::unique_ptr<PreviewExtractor> MakePreviewExtractor() = 0;
+    virtual std::unique_ptr<LanguageSettings> MakeLanguageSettings() = 0;
+};
+
+}  // namespace docbench
+
+#define DocbenchDocumentAccess_iid "com.tessaforma.docbench.DocumentAccess/1"
+Q_DECLARE_INTERFACE(docbench::DocumentAccess, DocbenchDocumentAccess_iid)

@@ -1,0 +1,23 @@
+// Everything outside the process, as the rest of the system reaches it.
+#pragma once
+
+namespace docbench {
+
+class Dialogs;
+class DocumentAccess;
+class HelpViewer;
+class OutsideObjects;
+class ShellExecute;
+
+// Set once by the program (or the test) before the first control is made; owned by whoever sets them.
+struct Seams {
+    Dialogs* dialogs = nullptr;
+    DocumentAccess* documents = nullptr;  // null when the document library could not be loaded
+    HelpViewer* help = nullptr;
+    OutsideObjects* outside = nullptr;
+    ShellExecute* shell = nullptr;
+};
+
+extern Seams gSeams;
+
+}  // namespace docbench
