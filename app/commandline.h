@@ -1,0 +1,26 @@
+// What the program was asked for on its command line.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace docbench {
+
+struct CommandLine {
+    enum class Does { Window, Tree, Help, Version, WrongUsage };
+
+    Does does = Does::Window;
+    QString file;         // document to open; empty for none
+    bool json = false;
+    QString screenshot;   // picture to write instead of waiting for the user; empty for none
+    QString theme = QStringLiteral("system");
+    QString message;      // what is wrong with the usage
+};
+
+// `arguments` begins with the program's name.
+CommandLine ParseCommandLine(const QStringList& arguments);
+
+// Needs the application object, for the program's name.
+QString HelpText();
+
+}  // namespace docbench

@@ -1,0 +1,98 @@
+// The program: makes everything outside the process, hands it in, and runs what was asked for.
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QTextStream>
+#include <QTimer>
+
+#include "app/commandline.h"
+#include "app/consoledialogs.h"
+#include "app/exitcodes.h"
+#include "app/mainwindow.h"
+#include "app/theme.h"
+#include "app/treecommand.h"
+#include "platform/desktopseams.h"
+#include "services/documentlibrary.h"
+#include "services/language.h"
+#include "services/paths.h"
+#include "services/seams.h"
+#include "shell/picturestore.h"
+
+namespace docbench {
+
+namespace {
+
+const char kVersion[] = DOCBENCH_VERSION;
+
+int RunTree(int argc, char* argv[], const CommandLine& line) {
+    const QCoreApplication application(argc, argv);
+    ConsoleDialogs dialogs;
+    gSeams.dialogs = &dialogs;
+    DocumentLibrary library;
+    gSeams.documents = library.Access();
+    LoadResources();
+    const QString path =
+        IsWebPath(line.file) ? line.file : QFileInfo(line.file).absoluteFilePath();
+    return PrintTree(path, line.json ? TreeFormat::Json : TreeFormat::Text);
+}
+
+int WriteScreenshot(MainWindow& window, const QString& file) {
+    if (window.grab().save(file))
+        return kExitDone;
+    QTextStream(stderr) << "The picture " << file << " can't be written.\n";
+    return kExitPartly;
+}
+
+int RunWindow(int argc, char* argv[], const CommandLine& line) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationVersion(QLatin1String(kVersion));
+    ApplyTheme(line.theme);
+    const DesktopSeams seams;
+    MainWindow window;
+    window.show();
+    if (!line.file.isEmpty())
+        window.Open(line.file);
+    if (line.screenshot.isEmpty())
+        return QApplication::exec();
+    int result = kExitDone;
+    QTimer::singleShot(0, &window, [&] {
+        result = WriteScreenshot(window, line.screenshot);
+        QApplication::quit();
+    });
+    QApplication::exec();
+    return result;
+}
+
+}  // namespace
+
+int Main(int argc, char* argv[]) {
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    QCoreApplication::setApplicationName(QStringLiteral("docbench"));
+    const CommandLine line = ParseCommandLine(arguments);
+    switch (line.does) {
+        case CommandLine::Does::Tree:
+            return RunTree(argc, argv, line);
+        case CommandLine::Does::Window:
+            return RunWindow(argc, argv, line);
+        case CommandLine::Does::Help: {
+            const QCoreApplication application(argc, argv);
+            QTextStream(stdout) << HelpText();
+            return kExitDone;
+        }
+        case CommandLine::Does::Version:
+            QTextStream(stdout) << "docbench " << kVersion << '\n';
+            return kExitDone;
+        case CommandLine::Does::WrongUsage:
+            break;
+    }
+    QTextStream(stderr) << line.message;
+    return kExitUsage;
+}
+
+}  // namespace docbench
+
+int main(int argc, char* argv[]) {
+    return docbench::Main(argc, argv);
+}

@@ -1,0 +1,108 @@
+#include "app/treecommand.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTextStream>
+
+#include "app/exitcodes.h"
+#include "services/language.h"
+#include "services/texts.h"
+#include "shell/referencetree.h"
+#include "shell/treepictures.h"
+
+namespace docbench {
+
+namespace {
+
+// What the tree tells of a node, read back from its cells.
+struct NodeState {
+    bool circular;
+    bool missing;
+    bool locked;
+};
+
+NodeState StateOf(const CellNode& node) {
+    const bool circular = node.image == kPictureCircular;
+    return {.circular = circular,
+            .missing = !circular && node.foreColor == kColorRed,
+            .locked = IsLockedPicture(node.image)};
+}
+
+// How deep each node stands below its root, by node.
+std::vector<int> Depths(const CellNodes& nodes) {
+    std::vector<int> depths(size_t(nodes.Count()) + 1, 0);
+    for (int i = 1; i <= nodes.Count(); ++i) {
+        const int parent = nodes.At(i).parent;
+        depths[size_t(i)] = parent == 0 ? 0 : depths[size_t(parent)] + 1;
+    }
+    return depths;
+}
+
+void PrintText(const CellNodes& nodes, QTextStream& out) {
+    const std::vector<int> depths = Depths(nodes);
+    for (int i = 1; i <= nodes.Count(); ++i) {
+        const CellNode& node = nodes.At(i);
+        const NodeState state = StateOf(node);
+        out << QString(2 * depths[size_t(i)], u' ') << node.text.trimmed();
+        if (state.missing)
+            out << " [missing]";
+        if (state.circular)
+            out << " [circular]";
+        if (state.locked)
+            out << " [locked]";
+        out << "  " << node.tag << '\n';
+    }
+}
+
+QString JsonText(const QString& text) {
+    const QByteArray list = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
+    return QString::fromUtf8(list.mid(1, list.size() - 2));
+}
+
+QString JsonBool(bool value) {
+    return value ? QStringLiteral("true") : QStringLiteral("false");
+}
+
+// Writes the nodes as they come: a tree may be deeper than a recursion over it and larger than a
+// document of it in memory should be.
+void PrintJson(const CellNodes& nodes, QTextStream& out) {
+    const std::vector<int> depths = Depths(nodes);
+    int open = 0;  // nodes whose list of children is not closed yet
+    for (int i = 1; i <= nodes.Count(); ++i) {
+        const CellNode& node = nodes.At(i);
+        const int depth = depths[size_t(i)];
+        for (; open > depth; --open)
+            out << "]}";
+        if (node.row > 0)
+            out << ',';
+        if (i > 1)
+            out << '\n' << QString(2 * depth, u' ');
+        const NodeState state = StateOf(node);
+        out << "{\"label\": " << JsonText(node.text) << ", \"path\": " << JsonText(node.tag)
+            << ", \"missing\": " << JsonBool(state.missing)
+            << ", \"circular\": " << JsonBool(state.circular)
+            << ", \"locked\": " << JsonBool(state.locked) << ", \"children\": [";
+        ++open;
+    }
+    for (; open > 0; --open)
+        out << "]}";
+    out << '\n';
+}
+
+}  // namespace
+
+int PrintTree(const QString& path, TreeFormat format) {
+    ReferenceTree tree;
+    if (!tree.Load(path)) {
+        QTextStream(stderr) << Format(Text::DocumentNotFound, path) << '\n';
+        return kExitNoDocument;
+    }
+    QTextStream out(stdout);
+    if (format == TreeFormat::Json)
+        PrintJson(tree.Nodes(), out);
+    else
+        PrintText(tree.Nodes(), out);
+    return tree.HadErrors() ? kExitPartly : kExitDone;
+}
+
+}  // namespace docbench

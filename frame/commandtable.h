@@ -1,0 +1,36 @@
+// The commands of the frame: what stands in its menus, drop-downs and icon bar, in order.
+#pragma once
+
+#include <QKeySequence>
+#include <QLatin1String>
+#include <vector>
+
+#include "services/texts.h"
+
+namespace docbench {
+
+struct CommandEntry {
+    QLatin1String code;  // empty: a separator
+    TextId<0> text = {};
+    QKeySequence shortcut = {};
+};
+
+// A button of the toolbar, with the entries of its drop-down and of the popup menu that mirrors it.
+struct CommandGroup {
+    QLatin1String key;
+    QLatin1String menuName;  // of the popup
+    TextId<0> caption;
+    std::vector<CommandEntry> entries;
+};
+
+const std::vector<CommandGroup>& CommandGroups();
+
+struct BarEntry {
+    QLatin1String pictureKey;
+    TextId<0> caption;
+    QLatin1String code;
+};
+
+const std::vector<BarEntry>& BarEntries();
+
+}  // namespace docbench

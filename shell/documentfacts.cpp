@@ -1,0 +1,57 @@
+#include "shell/documentfacts.h"
+
+#include "services/paths.h"
+#include "services/documentlibrary.h"
+
+namespace docbench {
+
+namespace {
+
+void ReadTables(const QString& path, DocumentFacts& facts) {
+    const auto file = Documents().MakeDocumentFile();
+    const QString noWebFolder;
+    file->Open(path);
+    facts.reached = ReadStage::Components;
+    const int componentCount = file->GetComponentCount();
+    for (int i = 0; i < componentCount; ++i)
+        facts.components.push_back(file->GetComponent(i, noWebFolder));
+    facts.reached = ReadStage::ExternalReferences;
+    const int externalCount = file->GetExternalReferenceCount();
+    for (int i = 0; i < externalCount; ++i)
+        facts.externals.push_back(file->GetExternalReference(i, noWebFolder));
+    facts.reached = ReadStage::ReferencesLocked;
+    facts.referencesLocked = file->GetReferencesLocked();
+}
+
+DocumentFacts Read(const QString& path) {
+    DocumentFacts facts;
+    facts.reached = ReadStage::Opening;
+    try {
+        const auto info = Documents().MakeDocumentInfo();
+        if (info->Open(path))
+            facts.locked = info->GetLocked();
+        facts.exists = FileExists(path);
+        if (facts.exists)
+            ReadTables(path, facts);
+        facts.reached = ReadStage::Complete;
+    } catch (const DocumentError& error) {
+        facts.error = error.Description();
+    }
+    return facts;
+}
+
+}  // namespace
+
+const DocumentFacts& FactsCache::Of(const QString& path) {
+    std::shared_ptr<DocumentFacts>& entry = facts_[path];
+    if (!entry) {
+        entry = std::make_shared<DocumentFacts>(Read(path));
+        const QString folded = path.toUpper();
+        const auto known = identities_.constFind(folded);
+        entry->identity = known != identities_.cend() ? *known : int(identities_.size());
+        identities_.insert(folded, entry->identity);
+    }
+    return *entry;
+}
+
+}  // namespace docbench

@@ -1,0 +1,110 @@
+#include "shell/locking.h"
+
+#include "services/dialogs.h"
+#include "services/documentlibrary.h"
+#include "services/language.h"
+#include "services/seams.h"
+#include "services/texts.h"
+#include "services/username.h"
+#include "shell/treepictures.h"
+
+namespace docbench {
+
+namespace {
+
+constexpr int kMayBeWritten = 0;
+constexpr int kReadOnly = 2;
+constexpr int kInUse = 3;
+
+void Warn(const QString& text) {
+    gSeams.dialogs->Box(text, Dialogs::Icon::Exclamation, gAppTitle);
+}
+
+// Changes the record of an opened document as far as the user may; gives the lock state afterwards.
+bool ChangeLock(DocumentInfo& info, bool wantLocked, const QString& path) {
+    const QString user = CurrentUserName();
+    if (!info.GetLocked()) {
+        if (wantLocked) {
+            info.SetLocked(true);
+            info.SetLockedBy(user);
+        }
+        return wantLocked;
+    }
+    const QString lockedBy = info.GetLockedBy();
+    if (user.left(lockedBy.size()) != lockedBy) {
+        Warn(Format(Text::LockedByOther, path, lockedBy));
+        return true;
+    }
+    if (!wantLocked) {
+        info.SetLocked(false);
+        info.SetLockedBy(QString());
+    }
+    return wantLocked;
+}
+
+}  // namespace
+
+void ReportAccessState(int code, const QString& path) {
+    switch (code) {
+        case kReadOnly:
+            return Warn(Format(Text::AccessReadOnly, path));
+        case kInUse:
+            return Warn(Format(Text::AccessInUse, path));
+        default:
+            return Warn(Format(Text::AccessRefused, path));
+    }
+}
+
+void ApplyLock(ReferenceTree& tree, bool wantLocked, int node) {
+    const QString path = tree.Nodes().At(node).tag;
+    try {
+        const int code = Documents().MakeDocumentFile()->GetAccessState(path);
+        if (code != kMayBeWritten)
+            return ReportAccessState(code, path);
+        const auto info = Documents().MakeDocumentInfo();
+        if (!info->Open(path))
+            return;
+        tree.currentLocked = ChangeLock(*info, wantLocked, path);
+        info->Save();  // writes the record whether or not the lock changed
+    } catch (const DocumentError& error) {
+        return Warn(error.Description());
+    }
+    const QString picture = DocumentPicture(path, tree.currentLocked);
+    if (!picture.isEmpty())
+        tree.Model().SetImage(node, picture);
+}
+
+void ApplyLockToChildren(ReferenceTree& tree, bool wantLocked, int node) {
+    const int last = tree.Nodes().LastBelow(node);
+    for (int i = node + 1; i <= last; ++i)
+        ApplyLock(tree, wantLocked, i);
+}
+
+void ApplyLockToMarked(ReferenceTree& tree, bool wantLocked, int node) {
+    const int last = tree.Nodes().LastBelow(node);
+    for (int i = node; i <= last; ++i) {
+        if (!IsMarked(tree, i))
+            continue;
+        ApplyLock(tree, wantLocked, i);
+        if (i != node)  // a child's turn comes once from its parent and once from itself
+            ApplyLock(tree, wantLocked, i);
+    }
+}
+
+void MarkNode(ReferenceTree& tree, int node) {
+    tree.Model().SetBackColor(node, kColorMarked);
+}
+
+bool IsMarked(const ReferenceTree& tree, int node) {
+    return tree.Nodes().At(node).backColor == kColorMarked;
+}
+
+void ClearMarks(ReferenceTree& tree, int node) {
+    const int last = tree.Nodes().LastBelow(node);
+    for (int i = node; i <= last; ++i) {
+        if (IsMarked(tree, i))
+            tree.Model().SetBackColor(i, kColorWhite);
+    }
+}
+
+}  // namespace docbench

@@ -1,0 +1,85 @@
+#include "shell/referencetreeview.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+
+#include "cells/celltree.h"
+
+namespace docbench {
+
+ReferenceTreeView::ReferenceTreeView(QWidget* parent) : QTreeView(parent) {
+    setHeaderHidden(true);
+    setUniformRowHeights(true);  // keeps layout independent of the number of rows
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setTextElideMode(Qt::ElideNone);
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    connect(this, &QAbstractItemView::pressed, this, [this](const QModelIndex& index) {
+        if (!pickedByPress_)
+            Pick(index);
+    });
+}
+
+void ReferenceTreeView::SetTree(CellTree* tree) {
+    tree_ = tree;
+    const QScopedValueRollback guard(programSelects_, true);
+    setModel(tree);
+}
+
+int ReferenceTreeView::SelectedNode() const {
+    const QModelIndexList selected = selectionModel()->selectedIndexes();
+    return selected.isEmpty() ? 0 : tree_->NodeOf(selected.first());
+}
+
+void ReferenceTreeView::SelectNode(int node) {
+    const QScopedValueRollback guard(programSelects_, true);
+    const QModelIndex index = tree_->IndexOf(node);
+    setCurrentIndex(index);
+    scrollTo(index);
+}
+
+void ReferenceTreeView::ShowNode(int node) {
+    for (int above = tree_->Nodes().At(node).parent; above != 0;
+         above = tree_->Nodes().At(above).parent)
+        ExpandNode(above);
+}
+
+void ReferenceTreeView::ExpandNode(int node) {
+    expand(tree_->IndexOf(node));
+}
+
+void ReferenceTreeView::mousePressEvent(QMouseEvent* event) {
+    Q_EMIT MousePressed(event->button());
+    const QScopedValueRollback guard(pickedByPress_, false);
+    QTreeView::mousePressEvent(event);
+}
+
+void ReferenceTreeView::mouseReleaseEvent(QMouseEvent* event) {
+    QTreeView::mouseReleaseEvent(event);
+    Q_EMIT MouseReleased(event->button(), event->modifiers(), event->globalPosition().toPoint());
+}
+
+// A right click opens its menu when the button is released; the menu key has no release.
+void ReferenceTreeView::contextMenuEvent(QContextMenuEvent* event) {
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        Q_EMIT MenuKeyPressed(viewport()->mapToGlobal(visualRect(currentIndex()).center()));
+    event->accept();
+}
+
+void ReferenceTreeView::selectionChanged(const QItemSelection& selected,
+                                         const QItemSelection& deselected) {
+    QTreeView::selectionChanged(selected, deselected);
+    if (programSelects_ || selected.isEmpty())
+        return;
+    pickedByPress_ = true;
+    Pick(selected.indexes().first());
+}
+
+void ReferenceTreeView::Pick(const QModelIndex& index) {
+    Q_EMIT NodeClick(tree_->NodeOf(index));
+}
+
+}  // namespace docbench
