@@ -1,0 +1,7 @@
+#include "services/seams.h"
+
+namespace docbench {
+
+Seams gSeams;
+
+}  // namespace docbench
