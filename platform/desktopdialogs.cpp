@@ -1,0 +1,77 @@
+#include "platform/desktopdialogs.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+
+#include "platform/filefilter.h"
+
+namespace docbench {
+namespace {
+
+QMessageBox::Icon IconOf(Dialogs::Icon icon) {
+    switch (icon) {
+        case Dialogs::Icon::Stop:
+            return QMessageBox::Critical;
+        case Dialogs::Icon::Question:
+            return QMessageBox::Question;
+        case Dialogs::Icon::Exclamation:
+            return QMessageBox::Warning;
+        case Dialogs::Icon::Information:
+            return QMessageBox::Information;
+        case Dialogs::Icon::None:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons ButtonsOf(Dialogs::Buttons buttons) {
+    switch (buttons) {
+        case Dialogs::Buttons::OkCancel:
+            return QMessageBox::Ok | QMessageBox::Cancel;
+        case Dialogs::Buttons::YesNoCancel:
+            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+        case Dialogs::Buttons::YesNo:
+            return QMessageBox::Yes | QMessageBox::No;
+        case Dialogs::Buttons::Ok:
+            break;
+    }
+    return QMessageBox::Ok;
+}
+
+Dialogs::Answer AnswerOf(int button) {
+    switch (button) {
+        case QMessageBox::Yes:
+            return Dialogs::Answer::Yes;
+        case QMessageBox::No:
+            return Dialogs::Answer::No;
+        case QMessageBox::Cancel:
+            return Dialogs::Answer::Cancel;
+        default:
+            return Dialogs::Answer::Ok;
+    }
+}
+
+}  // namespace
+
+Dialogs::Answer DesktopDialogs::Box(const QString& text, Icon icon, const QString& title,
+                                    Buttons buttons) {
+    QMessageBox box(IconOf(icon), title, text, ButtonsOf(buttons), QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);  // a file name is no markup
+    if (buttons == Buttons::YesNo)
+        box.setEscapeButton(QMessageBox::No);
+    return AnswerOf(box.exec());
+}
+
+QString DesktopDialogs::OpenFile(const QString& title, const QString& filter) {
+    QFileDialog dialog(QApplication::activeWindow(), title);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setNameFilters(NameFiltersOf(filter));
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+QString DesktopDialogs::BrowseFolder(const QString& title, const QString& start) {
+    return QFileDialog::getExistingDirectory(QApplication::activeWindow(), title, start);
+}
+
+}  // namespace docbench

@@ -1,0 +1,15 @@
+// The dialogs of a desktop.
+#pragma once
+
+#include "services/dialogs.h"
+
+namespace docbench {
+
+class DesktopDialogs : public Dialogs {
+public:
+    Answer Box(const QString& text, Icon icon, const QString& title, Buttons buttons) override;
+    QString OpenFile(const QString& title, const QString& filter) override;
+    QString BrowseFolder(const QString& title, const QString& start) override;
+};
+
+}  // namespace docbench

@@ -1,0 +1,31 @@
+#include "platform/desktopseams.h"
+
+#include "platform/dbusoutsideobjects.h"
+#include "platform/desktopdialogs.h"
+#include "platform/desktopshellexecute.h"
+#include "platform/helpwindow.h"
+#include "services/documentlibrary.h"
+
+namespace docbench {
+
+struct DesktopSeams::Parts {
+    DesktopDialogs dialogs;
+    DocumentLibrary library;
+    HelpWindow help;
+    DBusOutsideObjects outside;
+    DesktopShellExecute shell;
+};
+
+DesktopSeams::DesktopSeams() : parts_(std::make_unique<Parts>()), former_(gSeams) {
+    gSeams = {.dialogs = &parts_->dialogs,
+              .documents = parts_->library.Access(),
+              .help = &parts_->help,
+              .outside = &parts_->outside,
+              .shell = &parts_->shell};
+}
+
+DesktopSeams::~DesktopSeams() {
+    gSeams = former_;
+}
+
+}  // namespace docbench

@@ -1,0 +1,46 @@
+#include "platform/desktopshellexecute.h"
+
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QProcess>
+#include <QUrl>
+
+#include "services/paths.h"
+
+namespace docbench {
+namespace {
+
+// Callers say "0" for what they leave out.
+QString Given(const QString& text) {
+    return text == QLatin1String("0") ? QString() : text;
+}
+
+QUrl UrlOf(const QString& file) {
+    const QUrl url(file, QUrl::TolerantMode);
+    const bool remote = url.scheme() == QLatin1String("http") ||
+                        url.scheme() == QLatin1String("https") ||
+                        url.scheme() == QLatin1String("mailto");
+    return remote ? url : QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath());
+}
+
+}  // namespace
+
+bool DesktopShellExecute::Execute(const QString& verb, const QString& file,
+                                  const QString& parameters, const QString& folder, int) {
+    const QFileInfo info(file);
+    const bool opens =
+        verb.isEmpty() || verb.compare(QLatin1String("open"), Qt::CaseInsensitive) == 0;
+    if (opens && info.isFile() && info.isExecutable())
+        return QProcess::startDetached(info.absoluteFilePath(),
+                                       QProcess::splitCommand(Given(parameters)), Given(folder));
+    const QUrl url = UrlOf(file);
+    if (url.isLocalFile() && !info.exists())
+        return false;
+    return QDesktopServices::openUrl(url);
+}
+
+bool DesktopShellExecute::StartProgram(const QString& program, const QStringList& arguments) {
+    return QProcess::startDetached(program, arguments);
+}
+
+}  // namespace docbench

@@ -1,0 +1,7 @@
+#include "services/webdocument.h"
+
+namespace docbench {
+
+bool gWebDocument = false;
+
+}  // namespace docbench
