@@ -1,8 +1,11 @@
 #include "services/scratch.h"
 
+#include <QDebug>
 #include <QDir>
+#include <QUuid>
 #include <memory>
 
+#include "services/errorstate.h"
 #include "services/processfolder.h"
 
 namespace docbench {
@@ -21,13 +24,29 @@ std::unique_ptr<ProcessFolder>& OwnFolder() {
     return folder;
 }
 
+// Where the environment names a folder that is not there, the toolkit answers with the current one.
+QString SystemTempFolder() {
+    const QString folder = QDir::tempPath();
+    return QDir::isAbsolutePath(folder) ? folder : QStringLiteral("/tmp");
+}
+
+// Where no folder can be made. Whoever writes there fails and says so; no one else can guess the
+// name and put something there first.
+QString PathOfNothing() {
+    return SystemTempFolder() + QStringLiteral("/docbench-") +
+           QUuid::createUuid().toString(QUuid::WithoutBraces);
+}
+
 }  // namespace
 
 void PrepareScratch() {
     std::unique_ptr<ProcessFolder>& folder = OwnFolder();
+    ErrorState state;
     if (!folder)
-        folder = std::make_unique<ProcessFolder>(QDir::tempPath());
-    gTempFolder = folder->Path() + u'/';
+        state.Run([&] { folder = std::make_unique<ProcessFolder>(SystemTempFolder()); });
+    if (state.Failed())
+        qWarning().noquote() << state.Description();
+    gTempFolder = (folder ? folder->Path() : PathOfNothing()) + u'/';
     gTempBitmap = gTempFolder + QLatin1String(kPreviewBitmap);
     DeleteStaleScratch();
 }

@@ -47,7 +47,7 @@ QString KeyOf(const QString& section, const QString& name) {
 // By mode: the superuser may write anything, and still means what the mode says.
 bool MayWrite(const QString& path) {
     constexpr QFile::Permissions anybody =
-        QFile::WriteOwner | QFile::WriteUser | QFile::WriteGroup | QFile::WriteOther;
+        QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
     const QFileInfo info(path);
     return !info.exists() || (info.permissions() & anybody && info.isWritable());
 }
