@@ -5,6 +5,7 @@
 #include <QUrl>
 
 #include "services/dialogs.h"
+#include "services/language.h"
 #include "services/seams.h"
 
 namespace docbench {
@@ -25,7 +26,7 @@ void ReportMissing(const QString& helpFile) {
     gSeams.dialogs->Box(QStringLiteral("The help file %1 can't be found. Please check the "
                                        "installation.")
                             .arg(helpFile),
-                        Dialogs::Icon::Exclamation, QString());
+                        Dialogs::Icon::Exclamation, gAppTitle);
 }
 
 QTextBrowser* MakeWindow() {

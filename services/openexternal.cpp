@@ -9,11 +9,13 @@
 #include "services/dialogs.h"
 #include "services/errorstate.h"
 #include "services/helpviewer.h"
+#include "services/language.h"
 #include "services/outsideobjects.h"
 #include "services/paths.h"
 #include "services/seams.h"
 #include "services/settingsstore.h"
 #include "services/shellexecute.h"
+#include "services/texts.h"
 
 namespace docbench {
 namespace {
@@ -100,6 +102,11 @@ void OpenDocumentExternally(const QString& verb, const QString& file, const QStr
         if (gSeams.dialogs)
             gSeams.dialogs->Box(DescriptionOf(error), Dialogs::Icon::None, QString());
     }
+}
+
+QString BrowseForFolder(const QString& start, const QString& what) {
+    return gSeams.dialogs ? gSeams.dialogs->BrowseFolder(Format(Text::ChooseFolder, what), start)
+                          : QString();
 }
 
 }  // namespace docbench

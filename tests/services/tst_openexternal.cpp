@@ -8,6 +8,7 @@
 #include "services/seams.h"
 #include "services/settingsstore.h"
 #include "services/shellexecute.h"
+#include "services/texts.h"
 #include "tests/support/testdialogs.h"
 #include "tests/support/testenvironment.h"
 
@@ -179,6 +180,16 @@ private Q_SLOTS:
         dialogs.Expect("no desktop", Dialogs::Icon::None);
         Open("/w/list.xlsx");
         QVERIFY(dialogs.AllCame());
+    }
+
+    void TheTitleOfTheFolderDialogTellsWhatFor() {
+        TestDialogs dialogs;
+        gStrings[size_t(Text::ChooseFolder.number)] = "Choose a folder for %s here";
+        dialogs.ExpectBrowseFolder("/w/parts");
+        QCOMPARE(BrowseForFolder("/w", "parts"), QString("/w/parts"));
+        QCOMPARE(dialogs.LastTitle(), QString("Choose a folder for parts here"));
+        dialogs.ExpectBrowseFolder("");
+        QCOMPARE(BrowseForFolder("/w", "parts"), QString());
     }
 
     void NothingOutsideIsNeeded() {

@@ -3,6 +3,7 @@
 #include <QTest>
 #include <limits>
 
+#include "services/language.h"
 #include "services/paths.h"
 #include "tests/support/testenvironment.h"
 
@@ -85,6 +86,19 @@ private Q_SLOTS:
         QVERIFY(IsWebPath("/w/xhTTpx"));
         QVERIFY(!IsWebPath("/w/htt/p"));
         QVERIFY(!IsWebPath(""));
+    }
+
+    void TheTypesOfTwoDocumentsTellTheirRelation() {
+        gRelationDefault = "component";
+        gRelationAssembly = "in context";
+        gRelationPart = "derived";
+        QCOMPARE(RelationLabel("a.tfmprt", "/w/b.PRT"), gRelationPart);
+        QCOMPARE(RelationLabel("a.prt", "b.tfmasm"), gRelationAssembly);
+        QCOMPARE(RelationLabel("a.prt", "b.tfmdrw"), gRelationDefault);
+        QCOMPARE(RelationLabel("a.prt", ""), gRelationDefault);
+        QCOMPARE(RelationLabel("a.asm", "b.prt"), gRelationDefault);
+        QCOMPARE(RelationLabel("a.asm", "b.asm"), gRelationDefault);
+        QCOMPARE(RelationLabel("a.tfmdrw", "b.prt"), gRelationDefault);
     }
 
     void FilesAndFoldersExist() {
