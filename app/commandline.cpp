@@ -19,6 +19,7 @@ const QString kHelpOption = QStringLiteral("help");
 const QString kVersionOption = QStringLiteral("version");
 const QString kJsonOption = QStringLiteral("json");
 const QString kScreenshotOption = QStringLiteral("screenshot");
+const QString kQuitOption = QStringLiteral("quit-when-shown");
 const QString kThemeOption = QStringLiteral("theme");
 
 CommandLine Wrong(const QString& message) {
@@ -31,7 +32,8 @@ CommandLine Wrong(const QString& message) {
 void AddOptions(QCommandLineParser& parser) {
     parser.setApplicationDescription(
         QStringLiteral("Shows the documents of a CAD folder and what they refer to."));
-    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("part, assembly or drawing"),
+    parser.addPositionalArgument(QStringLiteral("FILE"),
+                                 QStringLiteral("part, assembly or drawing"),
                                  QStringLiteral("[tree] [FILE]"));
     parser.addOptions({
         {{QStringLiteral("h"), kHelpOption}, QStringLiteral("Shows this text.")},
@@ -39,6 +41,7 @@ void AddOptions(QCommandLineParser& parser) {
         {kJsonOption, QStringLiteral("Prints the tree as JSON.")},
         {kScreenshotOption, QStringLiteral("Writes a picture of the window to PNG and ends."),
          QStringLiteral("PNG")},
+        {kQuitOption, QStringLiteral("Ends once the window is on screen.")},
         {kThemeOption, QStringLiteral("light, dark or system (default)."), QStringLiteral("NAME"),
          QStringLiteral("system")},
     });
@@ -78,6 +81,7 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     line.file = words.value(0);
     line.json = parser.isSet(kJsonOption);
     line.screenshot = parser.value(kScreenshotOption);
+    line.quitWhenShown = parser.isSet(kQuitOption);
     line.theme = parser.value(kThemeOption);
     if (!QStringList{QStringLiteral("light"), QStringLiteral("dark"), QStringLiteral("system")}
              .contains(line.theme))

@@ -10,11 +10,12 @@ struct CommandLine {
     enum class Does { Window, Tree, Help, Version, WrongUsage };
 
     Does does = Does::Window;
-    QString file;         // document to open; empty for none
+    QString file;  // document to open; empty for none
     bool json = false;
-    QString screenshot;   // picture to write instead of waiting for the user; empty for none
+    QString screenshot;          // picture to write instead of waiting for the user; empty for none
+    bool quitWhenShown = false;  // ends once the window is on screen: for measuring the start
     QString theme = QStringLiteral("system");
-    QString message;      // what is wrong with the usage
+    QString message;  // what is wrong with the usage
 };
 
 // `arguments` begins with the program's name.

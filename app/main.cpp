@@ -31,8 +31,7 @@ int RunTree(int argc, char* argv[], const CommandLine& line) {
     DocumentLibrary library;
     gSeams.documents = library.Access();
     LoadResources();
-    const QString path =
-        IsWebPath(line.file) ? line.file : QFileInfo(line.file).absoluteFilePath();
+    const QString path = IsWebPath(line.file) ? line.file : QFileInfo(line.file).absoluteFilePath();
     return PrintTree(path, line.json ? TreeFormat::Json : TreeFormat::Text);
 }
 
@@ -52,15 +51,17 @@ int RunWindow(int argc, char* argv[], const CommandLine& line) {
     window.show();
     if (!line.file.isEmpty())
         window.Open(line.file);
-    if (line.screenshot.isEmpty())
-        return QApplication::exec();
     int result = kExitDone;
-    QTimer::singleShot(0, &window, [&] {
-        result = WriteScreenshot(window, line.screenshot);
-        QApplication::quit();
-    });
-    QApplication::exec();
-    return result;
+    const bool endsAlone = line.quitWhenShown || !line.screenshot.isEmpty();
+    if (endsAlone) {
+        QTimer::singleShot(0, &window, [&] {
+            if (!line.screenshot.isEmpty())
+                result = WriteScreenshot(window, line.screenshot);
+            QApplication::quit();
+        });
+    }
+    const int ended = QApplication::exec();
+    return endsAlone ? result : ended;
 }
 
 }  // namespace

@@ -11,13 +11,13 @@ namespace docbench {
 using CellColor = quint32;
 
 inline constexpr CellColor kColorNormal = 0;
-inline constexpr CellColor kColorRed = 255;       // missing, refused or failed
-inline constexpr CellColor kColorBlue = 0xFF0000;  // done
+inline constexpr CellColor kColorRed = 255;         // missing, refused or failed
+inline constexpr CellColor kColorBlue = 0xFF0000;   // done
 inline constexpr CellColor kColorMarked = 8421504;  // grey: marked
 inline constexpr CellColor kColorWhite = 16777215;  // default background
 
-// The screen colour of a stored text colour: none for the normal one, which is the palette's text. On a
-// dark background, red and blue are lightened until they can be read.
+// The screen colour of a stored text colour: none for the normal one, which is the palette's text.
+// On a dark background, red and blue are lightened until they can be read.
 QVariant ForegroundFor(CellColor stored, const QPalette& palette);
 // The same of a stored background; none for white, which is the palette's base.
 QVariant BackgroundFor(CellColor stored);

@@ -15,7 +15,7 @@ namespace docbench {
 
 struct Cell {
     QString text;
-    QString tag = {};      // hidden: what the cell stands for
+    QString tag = {};  // hidden: what the cell stands for
     QString toolTip = {};
     CellColor foreColor = kColorNormal;
     bool bold = false;

@@ -14,6 +14,12 @@ int CellNodes::Add(int parent, CellNode node) {
     return index;
 }
 
+int CellNodes::LastBelow(int index) const {
+    while (!At(index).children.empty())
+        index = At(index).children.back();
+    return index;
+}
+
 void CellTree::SetPictures(std::function<QIcon(const QString&)> pictures) {
     pictures_ = std::move(pictures);
 }
@@ -72,7 +78,8 @@ QVariant CellTree::data(const QModelIndex& index, int role) const {
         case Qt::ToolTipRole:
             return node.tag;
         case Qt::DecorationRole:
-            return pictures_ && !node.image.isEmpty() ? QVariant(pictures_(node.image)) : QVariant();
+            return pictures_ && !node.image.isEmpty() ? QVariant(pictures_(node.image))
+                                                      : QVariant();
         case Qt::ForegroundRole:
             return ForegroundFor(node.foreColor, QGuiApplication::palette());
         case Qt::BackgroundRole:

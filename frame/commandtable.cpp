@@ -14,14 +14,20 @@ const CommandEntry kSeparator{};
 
 const std::vector<CommandGroup>& CommandGroups() {
     static const std::vector<CommandGroup> groups = {
-        {Code("OPEN"), Code("menufile"), Text::ToolbarOpen,
+        {Code("OPEN"),
+         Code("menufile"),
+         Text::ToolbarOpen,
          {{Code("OPEN"), Text::MenuOpenFile, QKeySequence::Open},
           {Code("OPENURL"), Text::OpenWebFolder, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O)}}},
-        {Code("RENAME"), Code("menuedit"), Text::ToolbarRename,
+        {Code("RENAME"),
+         Code("menuedit"),
+         Text::ToolbarRename,
          {{Code("RENAME"), Text::Rename, QKeySequence(Qt::Key_F2)},
           {Code("REPLACE"), Text::Replace},
           {Code("COPY"), Text::Copy}}},
-        {Code("PREVIEW"), Code("menutools"), Text::ToolbarView,
+        {Code("PREVIEW"),
+         Code("menutools"),
+         Text::ToolbarView,
          {{Code("PREVIEW"), Text::Preview, QKeySequence(Qt::CTRL | Qt::Key_1)},
           {Code("SUMMARY"), Text::Properties, QKeySequence(Qt::CTRL | Qt::Key_2)},
           {Code("REF"), Text::References, QKeySequence(Qt::CTRL | Qt::Key_3)},
@@ -33,7 +39,9 @@ const std::vector<CommandGroup>& CommandGroups() {
           {Code("LINK"), Text::Hyperlinks, QKeySequence(Qt::CTRL | Qt::Key_7)},
           kSeparator,
           {Code("SETUP"), Text::Setup, QKeySequence(Qt::CTRL | Qt::Key_8)}}},
-        {Code("ABOUT"), Code("menuhelp"), Text::Help,
+        {Code("ABOUT"),
+         Code("menuhelp"),
+         Text::Help,
          {{Code("HELP"), Text::Help, QKeySequence::HelpContents}, {Code("ABOUT"), Text::About}}},
     };
     return groups;

@@ -3,10 +3,13 @@
 #include <QApplication>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QToolButton>
 
 #include "frame/commandtable.h"
+#include "frame/olbar.h"
+#include "frame/statusline.h"
 #include "services/helpviewer.h"
 #include "services/language.h"
 #include "services/openexternal.h"
@@ -121,7 +124,7 @@ void Maincontrol::MakeGroup(const CommandGroup& group) {
     auto* button = new QToolButton(ui_->Toolbar1);
     button->setObjectName(QStringLiteral("Toolbar1_") + group.key);
     button->setText(Tr(group.caption));
-    button->setToolTip(Tr(group.caption).remove(u'&'));
+    button->setToolTip(QString(Tr(group.caption)).remove(QLatin1Char('&')));
     button->setIcon(PictureOf(group.key));
     button->setPopupMode(QToolButton::MenuButtonPopup);
     button->setMenu(dropDown);
@@ -145,7 +148,8 @@ QMenu* Maincontrol::MakeMenu(const CommandGroup& group, const QString& name) {
         QAction* action = menu->addAction(Tr(entry.text));
         action->setObjectName(name + QStringLiteral("_%1").arg(item));
         action->setData(QString(entry.code));
-        // Shown here; what reacts to the keys is a shortcut of the frame, since the menus are popups.
+        // Shown here; what reacts to the keys is a shortcut of the frame, since the menus are
+        // popups.
         action->setShortcut(entry.shortcut);
         action->setShortcutContext(Qt::WidgetShortcut);
         connect(action, &QAction::triggered, this,

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kPictureSize = 32;
 constexpr int kCaptionLines = 2;
-constexpr int kTop = TwipsToPixels(360);          // of the first picture
+constexpr int kTop = TwipsToPixels(360);  // of the first picture
 constexpr int kBetweenItems = TwipsToPixels(60);
 constexpr int kAboveCaption = TwipsToPixels(120);
 constexpr int kCaptionInset = TwipsToPixels(60);  // from the bar's edges
@@ -122,6 +122,11 @@ void olbar::keyPressEvent(QKeyEvent* event) {
     QWidget::keyPressEvent(event);
 }
 
+void olbar::mouseMoveEvent(QMouseEvent* event) {
+    QWidget::mouseMoveEvent(event);
+    Check2->hide();
+}
+
 void olbar::focusOutEvent(QFocusEvent* event) {
     QWidget::focusOutEvent(event);
     Check2->hide();
@@ -130,8 +135,10 @@ void olbar::focusOutEvent(QFocusEvent* event) {
 bool olbar::eventFilter(QObject* watched, QEvent* event) {
     const bool moves = event->type() == QEvent::MouseMove || event->type() == QEvent::Enter;
     for (int i = 0; moves && i < itemCount; ++i) {
-        if (watched == Image1[size_t(i)])
-            Hover(i);
+        if (watched != Image1[size_t(i)])
+            continue;
+        Hover(i);
+        return true;  // else it would go on to the bar and count as a move over that
     }
     return QWidget::eventFilter(watched, event);
 }

@@ -1,7 +1,7 @@
 #include "shell/documentfacts.h"
 
-#include "services/paths.h"
 #include "services/documentlibrary.h"
+#include "services/paths.h"
 
 namespace docbench {
 

@@ -1,4 +1,5 @@
-// What the tree shows of documents, read once for each document however often it occurs in the tree.
+// What the tree shows of documents, read once for each document however often it occurs in the
+// tree.
 #pragma once
 
 #include <QHash>

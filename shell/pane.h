@@ -9,9 +9,9 @@ namespace docbench {
 
 // The document that a pane is handed.
 struct PaneDocument {
-    QString partName;          // title: the file name without extension
-    QString path;              // path or address; empty when there is no document
-    QString treeChain;         // all documents above the selected node, joined by ";"
+    QString partName = {};   // title: the file name without extension
+    QString path = {};       // path or address; empty when there is no document
+    QString treeChain = {};  // all documents above the selected node, joined by ";"
     bool actionReplace = false;
 };
 
@@ -25,7 +25,7 @@ public:
     virtual void SetShowDesc(bool show) = 0;
     virtual void SetDocument(const PaneDocument& document) = 0;
 
-    virtual void Enable(bool) {}                       // editing, by the document's lock
+    virtual void Enable(bool) {}                      // editing, by the document's lock
     virtual void ReloadProperties(const QString&) {}  // the document's record has changed
     virtual void ReleaseAll() {}  // stops a running search and frees what it holds
 
@@ -35,8 +35,8 @@ public:
     void SetStatusText(const QString& text);
 
 Q_SIGNALS:
-    // The pane has changed documents on disk; `newfilename` is the new path of the one that it shows,
-    // or empty.
+    // The pane has changed documents on disk; `newfilename` is the new path of the one that it
+    // shows, or empty.
     void FileUpdated(const QString& newfilename);
 
 private:

@@ -57,8 +57,9 @@ const PaneCommand kCommands[] = {
 }  // namespace
 
 const PaneCommand* FindPaneCommand(const QString& code) {
-    const auto found = std::find_if(std::begin(kCommands), std::end(kCommands),
-                                    [&](const PaneCommand& command) { return command.code == code; });
+    const auto found =
+        std::find_if(std::begin(kCommands), std::end(kCommands),
+                     [&](const PaneCommand& command) { return command.code == code; });
     return found == std::end(kCommands) ? nullptr : found;
 }
 

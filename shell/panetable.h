@@ -35,16 +35,16 @@ struct PaneCommand {
     Handover handover = Handover::IfAny;
     bool takesFocus = true;
     bool takesShowDesc = true;
-    bool takesChain = false;     // is handed the documents above the selected node
-    bool followsLock = false;    // is enabled by the document's lock when it comes up
+    bool takesChain = false;   // is handed the documents above the selected node
+    bool followsLock = false;  // is enabled by the document's lock when it comes up
     bool actionReplace = false;
 };
 
 // The command of a code; null for one that is not a pane's.
 const PaneCommand* FindPaneCommand(const QString& code);
 
-// Whether the pane of a command works on the very document it was shown for, so that another document
-// must not land in it.
+// Whether the pane of a command works on the very document it was shown for, so that another
+// document must not land in it.
 bool LeavesWithDocument(const QString& code);
 
 }  // namespace docbench

@@ -11,8 +11,8 @@ PathCombo::PathCombo(QWidget* parent) : QComboBox(parent) {
     setDuplicatesEnabled(true);
     setCompleter(nullptr);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    // A text that equals an entry is still a typed one: the combo's own reaction to the end of editing
-    // would report it as picked, a second time.
+    // A text that equals an entry is still a typed one: the combo's own reaction to the end of
+    // editing would report it as picked, a second time.
     lineEdit()->disconnect(SIGNAL(editingFinished()), this);
     connect(this, &QComboBox::textActivated, this, &PathCombo::Chosen);
 }

@@ -6,8 +6,8 @@
 
 namespace docbench {
 
-// The icon of a picture key such as "picPart" or "PVIW"; a null icon for an unknown one. It is drawn at
-// the size and resolution at which it is shown.
+// The icon of a picture key such as "picPart" or "PVIW"; a null icon for an unknown one. It is
+// drawn at the size and resolution at which it is shown.
 QIcon PictureOf(const QString& key);
 
 }  // namespace docbench

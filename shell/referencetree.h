@@ -16,15 +16,16 @@ public:
     // Lock state of the current document as last read.
     bool currentLocked = false;
 
-    // Reads the document at `path` and everything that it refers to. False when the document itself is
-    // missing or can't be read; the tree is empty then.
+    // Reads the document at `path` and everything that it refers to. False when the document itself
+    // is missing or can't be read; the tree is empty then.
     bool Load(const QString& path);
     void Clear();
     const std::vector<int>& CircularNodes() const { return circular_; }
     bool HadErrors() const { return hadErrors_; }  // some document below the root can't be read
 
-    // All documents that hold the document of `node`, with itself first, joined by ";". Documents that
-    // are reached by several ways come several times. Without a node (0), `chain` stays as it is.
+    // All documents that hold the document of `node`, with itself first, joined by ";". Documents
+    // that are reached by several ways come several times. Without a node (0), `chain` stays as it
+    // is.
     void BuildReferencingChain(int node, QString& chain) const;
 
 private:

@@ -17,20 +17,22 @@ public:
     int SelectedNode() const;  // 0: none
     // Selects as the program does it: no NodeClick comes of it. Makes the node visible.
     void SelectNode(int node);
-    void ShowNode(int node);   // opens the nodes above it
+    void ShowNode(int node);  // opens the nodes above it
     void ExpandNode(int node);
 
 Q_SIGNALS:
     void MousePressed(Qt::MouseButton button);  // before the node click that may come of it
     void NodeClick(int node);                   // picked by mouse or keyboard, also once more
-    void MouseReleased(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, QPoint globalPosition);
+    void MouseReleased(Qt::MouseButton button, Qt::KeyboardModifiers modifiers,
+                       QPoint globalPosition);
     void MenuKeyPressed(QPoint globalPosition);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
-    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+    void selectionChanged(const QItemSelection& selected,
+                          const QItemSelection& deselected) override;
 
 private:
     void Pick(const QModelIndex& index);

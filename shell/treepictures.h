@@ -7,8 +7,8 @@ namespace docbench {
 
 inline const QString kPictureCircular = QStringLiteral("circular");  // the tree's picture 5
 
-// "picPart", "picAsm" or "picDrw" by the type of the document at `path`, with "Lock" behind it for a
-// locked one; empty for anything that is no document.
+// "picPart", "picAsm" or "picDrw" by the type of the document at `path`, with "Lock" behind it for
+// a locked one; empty for anything that is no document.
 QString DocumentPicture(const QString& path, bool locked);
 
 // Whether a key is the picture of a locked document.

@@ -64,7 +64,7 @@ TreeWalk::Entered TreeWalk::Enter(int parent, const QString& path, const QString
 }
 
 bool TreeWalk::Advance(Level& level) {
-    if (nodes_.Count() >= maximumRows_)
+    if (IsFull())
         return false;
     // Entering a row may move the levels, so nothing of `level` is touched afterwards.
     if (level.nextComponent < level.facts->components.size()) {
@@ -103,6 +103,17 @@ bool TreeWalk::Leave(const Level& level) {
         ReportError(node.tag, facts.error);
         return false;
     }
+    return true;
+}
+
+bool TreeWalk::IsFull() {
+    if (nodes_.Count() < maximumRows_)
+        return false;
+    if (!std::exchange(toldFull_, true))
+        ReportError(nodes_.At(1).tag,
+                    QStringLiteral("Its tree has more than %1 rows. The rows beyond them are not "
+                                   "shown; open a subassembly to see them.")
+                        .arg(maximumRows_));
     return true;
 }
 

@@ -13,16 +13,16 @@ namespace docbench {
 // hostile documents can drive beyond any memory. Real assemblies stay far below this.
 inline constexpr int kMaximumTreeRows = 2'000'000;
 
-// Walks one document. Boxes tell of circular references and of documents that can't be read, one for
-// each occurrence; the walk goes on behind them.
+// Walks one document. Boxes tell of circular references and of documents that can't be read, one
+// for each occurrence; the walk goes on behind them.
 class TreeWalk {
 public:
-    // `currentLocked` is the lock state that carries over from node to node in walk order: a node whose
-    // record can't be opened takes the picture of the one before it.
+    // `currentLocked` is the lock state that carries over from node to node in walk order: a node
+    // whose record can't be opened takes the picture of the one before it.
     explicit TreeWalk(bool& currentLocked, int maximumRows = kMaximumTreeRows);
 
-    // Adds the document at `path` as a root and everything below it. False when there is no such file
-    // or it can't be read.
+    // Adds the document at `path` as a root and everything below it. False when there is no such
+    // file or it can't be read.
     bool WalkDocument(const QString& path);
 
     CellNodes TakeNodes() { return std::move(nodes_); }
@@ -42,10 +42,11 @@ private:
 
     Entered Enter(int parent, const QString& path, const QString& labelTail,
                   const QString& labelExtra);
-    bool Advance(Level& level);      // adds the level's next row; false when there is none left
+    bool Advance(Level& level);  // adds the level's next row; false when there is none left
     void EnterComponent(const Level& level, const ComponentRow& row);
     void EnterExternal(const Level& level, const ExternalRow& row);
     bool Leave(const Level& level);  // finishes the node's label; false after an error
+    bool IsFull();                   // the tree may grow no further; says so the first time
     void ReportError(const QString& path, const QString& description);
 
     bool& currentLocked_;
@@ -56,6 +57,7 @@ private:
     std::vector<bool> onTheWay_;  // by identity: the documents of `levels_`
     std::vector<int> circular_;
     bool hadErrors_ = false;
+    bool toldFull_ = false;
 };
 
 }  // namespace docbench

@@ -12,14 +12,15 @@
 #include "services/seams.h"
 #include "services/settingsstore.h"
 #include "services/texts.h"
+#include "services/webdocument.h"
 #include "shell/languagefonts.h"
 #include "shell/locking.h"
 #include "shell/pane.h"
 #include "shell/pathdrop.h"
 #include "shell/picturestore.h"
 #include "shell/referencetree.h"
-#include "ui_usercontrol1.h"
 #include "shell/waitcursor.h"
+#include "ui_usercontrol1.h"
 
 namespace docbench {
 
@@ -54,7 +55,11 @@ UserControl1::UserControl1(QWidget* parent)
     ApplyLanguageFonts(*this);
     ConnectTree();
     ConnectWaysIn();
-    PrepareScratch();
+    try {
+        PrepareScratch();
+    } catch (const DocumentError& error) {
+        gSeams.dialogs->Box(error.Description(), Dialogs::Icon::Exclamation, gAppTitle);
+    }
 }
 
 UserControl1::~UserControl1() {
@@ -78,8 +83,10 @@ void UserControl1::MakeMenu() {
     mncopy = add("mncopy");
     connect(mnopen, &QAction::triggered, this, &UserControl1::OpenSelected);
     connect(mnReplace, &QAction::triggered, this, &UserControl1::ReplaceSelected);
-    connect(mnrename, &QAction::triggered, this, [this] { SetCurrentFunction(QStringLiteral("RENAME")); });
-    connect(mncopy, &QAction::triggered, this, [this] { SetCurrentFunction(QStringLiteral("COPY")); });
+    connect(mnrename, &QAction::triggered, this,
+            [this] { SetCurrentFunction(QStringLiteral("RENAME")); });
+    connect(mncopy, &QAction::triggered, this,
+            [this] { SetCurrentFunction(QStringLiteral("COPY")); });
 }
 
 void UserControl1::SetCaptions() {
@@ -89,7 +96,7 @@ void UserControl1::SetCaptions() {
     mnopen->setText(Tr(Text::MenuOpen));
     mnReplace->setText(Tr(Text::MenuReplace));
     mnrename->setText(Tr(Text::MenuRename));
-    mncopy->setText(Tr(Text::MenuCopy));
+    mncopy->setText(Tr(Text::CopyWord));
     ui_->filepathCombo->setAccessibleName(Tr(Text::OpenDocumentTitle));
     ui_->tvw->setAccessibleName(Tr(Text::References));
 }
@@ -120,7 +127,8 @@ void UserControl1::ConnectWaysIn() {
     }
 }
 
-void UserControl1::showResult(const QString& request, const QString& path, const QString& partName) {
+void UserControl1::showResult(const QString& request, const QString& path,
+                              const QString& partName) {
     for (Pane* pane : panes_) {
         if (pane)
             pane->hide();
@@ -379,7 +387,8 @@ void UserControl1::LockSelected(bool wantLocked) {
     ApplyLock(*tree_, wantLocked, node);
     if (ShiftPressed)
         ApplyLockToMarked(*tree_, wantLocked, kRootNode);
-    // Hyperlinks stay disabled after an unlock too, until the next click in the tree reads the state.
+    // Hyperlinks stay disabled after an unlock too, until the next click in the tree reads the
+    // state.
     EnableEditors(false, !wantLocked);
     if (Pane* properties = PaneOf(PaneId::Properties))
         properties->ReloadProperties(tree_->Nodes().At(node).tag);

@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "shell/export.h"
+#include "shell/pane.h"
 #include "shell/panetable.h"
 
 class QAction;
@@ -19,7 +20,6 @@ class UserControl1;
 
 namespace docbench {
 
-class Pane;
 class ReferenceTree;
 
 class DOCBENCH_EXPORT UserControl1 : public QWidget {
@@ -34,11 +34,11 @@ public:
     explicit UserControl1(QWidget* parent = nullptr);
     ~UserControl1() override;
 
-    // Shows the pane of `request` for the document at `path`, whose title is `partName`. A code that is
-    // no pane's shows Label1. Does not change CurrentFunction.
+    // Shows the pane of `request` for the document at `path`, whose title is `partName`. A code
+    // that is no pane's shows Label1. Does not change CurrentFunction.
     void showResult(const QString& request, const QString& path, const QString& partName);
-    // Entry point of all commands: a pane code becomes the CurrentFunction and shows its pane, an action
-    // code acts.
+    // Entry point of all commands: a pane code becomes the CurrentFunction and shows its pane, an
+    // action code acts.
     void SetCurrentFunction(const QString& request);
 
     QString Caption() const { return caption_; }
@@ -54,8 +54,8 @@ public:
 
     // The object whose property "Caption" is the status line; null for none.
     void StatusBar(QObject* statusBar);
-    // Reads whether the selected document is locked; an empty value when its record can't be opened or
-    // nothing is selected.
+    // Reads whether the selected document is locked; an empty value when its record can't be opened
+    // or nothing is selected.
     QVariant GetLockState();
 
     // Beyond the fixed members.
@@ -63,8 +63,8 @@ public:
     // The four properties under the keys that a host saves them with.
     void ReadProperties(const QVariantMap& saved);
     QVariantMap WriteProperties();
-    // Opens the document at a path or address as if it had been typed into the path box. Anything that
-    // is no document is ignored.
+    // Opens the document at a path or address as if it had been typed into the path box. Anything
+    // that is no document is ignored.
     void OpenPath(const QString& path);
     // Gives the pane for `id`, once, and takes it into the control.
     void AddPane(PaneId id, Pane* pane);
@@ -121,10 +121,10 @@ private:
     QString caption_;
     QString currentFunction_;
     QString statusText_;
-    QString currentTitle;              // of the current document: its file name without extension
+    QString currentTitle;  // of the current document: its file name without extension
     QPointer<QObject> statusBarTarget;
-    QString treeChainList;             // documents above the selected node, for rename, replace, copy
-    bool leftClickPending = true;      // the last button pressed on the tree was not the right one
+    QString treeChainList;         // documents above the selected node, for rename, replace, copy
+    bool leftClickPending = true;  // the last button pressed on the tree was not the right one
 };
 
 }  // namespace docbench

@@ -6,7 +6,9 @@
 
 namespace docbench {
 
-TestDialogs::TestDialogs() : former_(gSeams.dialogs) { gSeams.dialogs = this; }
+TestDialogs::TestDialogs() : former_(gSeams.dialogs) {
+    gSeams.dialogs = this;
+}
 
 TestDialogs::~TestDialogs() {
     gSeams.dialogs = former_;

@@ -8,8 +8,8 @@
 
 namespace docbench {
 
-// Fails the running test on a message that was not expected, that differs from the expected one, and,
-// when it is destroyed, on one that did not come.
+// Fails the running test on a message that was not expected, that differs from the expected one,
+// and, when it is destroyed, on one that did not come.
 class TestDialogs : public Dialogs {
 public:
     TestDialogs();  // makes itself the program's dialogs until it is destroyed

@@ -18,10 +18,10 @@ private:
 }  // namespace docbench
 
 // The main() of a test: like QTEST_MAIN (with widgets) or QTEST_GUILESS_MAIN, in a private home.
-#define DOCBENCH_TEST_MAIN(Application, TestClass)      \
-    int main(int argc, char* argv[]) {                  \
-        const docbench::TestEnvironment environment;    \
-        Application application(argc, argv);            \
-        TestClass test;                                 \
-        return QTest::qExec(&test, argc, argv);         \
+#define DOCBENCH_TEST_MAIN(Application, TestClass)   \
+    int main(int argc, char* argv[]) {               \
+        const docbench::TestEnvironment environment; \
+        Application application(argc, argv);         \
+        TestClass test;                              \
+        return QTest::qExec(&test, argc, argv);      \
     }

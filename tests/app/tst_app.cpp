@@ -1,0 +1,191 @@
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTest>
+
+#include "tests/support/testdialogs.h"
+#include "tests/support/testenvironment.h"
+#include "tests/support/testlibrary.h"
+
+using namespace docbench;
+
+class TestApp : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void treePrintsEveryRowWithItsPath();
+    void treePrintsJson();
+    void treeNeedsNoDisplay();
+    void aRelativePathIsTakenFromTheWorkingFolder();
+    void aMissingDocumentEndsWithThree();
+    void aDocumentThatIsNoneEndsWithThree();
+    void aChildThatCannotBeReadEndsWithOne();
+    void wrongUsageEndsWithTwo_data();
+    void wrongUsageEndsWithTwo();
+    void helpAndVersionArePrinted();
+    void theWindowOpensWithTheDocument_data();
+    void theWindowOpensWithTheDocument();
+};
+
+namespace {
+
+struct Run {
+    explicit Run(const QStringList& arguments, const QString& folder = {},
+                 const QString& platform = QStringLiteral("offscreen")) {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), platform);
+        process.setProcessEnvironment(environment);
+        if (!folder.isEmpty())
+            process.setWorkingDirectory(folder);
+        process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/docbench"),
+                      arguments);
+        if (!process.waitForFinished(60000))
+            qFatal("docbench does not end");
+        code = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+        out = QString::fromUtf8(process.readAllStandardOutput());
+        err = QString::fromUtf8(process.readAllStandardError());
+    }
+    int code;
+    QString out;
+    QString err;
+};
+
+QString SmallAssembly(TestLibrary& library) {
+    const QString pin = library.Make(QStringLiteral("pin.tfmprt"));
+    const QString bolt = library.Make(QStringLiteral("bo\"lt.tfmprt"));
+    library.Lock(bolt, QStringLiteral("somebody"));
+    const QString left = library.Make(QStringLiteral("left.tfmasm"),
+                                      {{pin, 6}, {library.Path(QStringLiteral("top.tfmasm"))}});
+    return library.Make(QStringLiteral("top.tfmasm"),
+                        {{left}, {bolt}, {library.Path(QStringLiteral("lost.tfmprt"))}});
+}
+
+}  // namespace
+
+void TestApp::treePrintsEveryRowWithItsPath() {
+    TestLibrary library;
+    const Run run({QStringLiteral("tree"), SmallAssembly(library)});
+    QCOMPARE(run.code, 0);
+    const QString f = library.Folder() + u'/';
+    const QStringList lines = run.out.split(u'\n', Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 6);
+    QCOMPARE(lines[0], QStringLiteral("top  ") + f + QStringLiteral("top.tfmasm"));
+    QCOMPARE(lines[1], QStringLiteral("  left  ") + f + QStringLiteral("left.tfmasm"));
+    QCOMPARE(lines[2], QStringLiteral("    pin  (6 x)  ") + f + QStringLiteral("pin.tfmprt"));
+    QVERIFY(lines[3].contains(QLatin1String("[circular]")));
+    QVERIFY(lines[4].contains(QLatin1String("[locked]")));
+    QCOMPARE(lines[5], QStringLiteral("  lost [missing]  ") + f + QStringLiteral("lost.tfmprt"));
+    QVERIFY(run.err.contains(QLatin1String("top.tfmasm")));  // the message about the cycle
+}
+
+void TestApp::treePrintsJson() {
+    TestLibrary library;
+    const Run run({QStringLiteral("tree"), SmallAssembly(library), QStringLiteral("--json")});
+    QCOMPARE(run.code, 0);
+    QJsonParseError error;
+    const QJsonObject top = QJsonDocument::fromJson(run.out.toUtf8(), &error).object();
+    QCOMPARE(error.errorString(), QJsonParseError().errorString());
+    QCOMPARE(top[QLatin1String("label")].toString(), QStringLiteral("top "));
+    const QJsonArray children = top[QLatin1String("children")].toArray();
+    QCOMPARE(children.size(), 3);
+    QCOMPARE(children[0][QLatin1String("children")].toArray().size(), 2);
+    QVERIFY(children[0][QLatin1String("children")][1][QLatin1String("circular")].toBool());
+    QVERIFY(children[1][QLatin1String("locked")].toBool());
+    QCOMPARE(children[1][QLatin1String("path")].toString(),
+             library.Path(QStringLiteral("bo\"lt.tfmprt")));
+    QVERIFY(children[2][QLatin1String("missing")].toBool());
+    QVERIFY(!children[2][QLatin1String("circular")].toBool());
+}
+
+void TestApp::treeNeedsNoDisplay() {
+    TestLibrary library;
+    const Run run({QStringLiteral("tree"), SmallAssembly(library)}, {}, QStringLiteral("xcb"));
+    QCOMPARE(run.code, 0);
+}
+
+void TestApp::aRelativePathIsTakenFromTheWorkingFolder() {
+    TestLibrary library;
+    SmallAssembly(library);
+    const Run run({QStringLiteral("tree"), QStringLiteral("pin.tfmprt")}, library.Folder());
+    QCOMPARE(run.code, 0);
+    QVERIFY(run.out.contains(library.Path(QStringLiteral("pin.tfmprt"))));
+}
+
+void TestApp::aMissingDocumentEndsWithThree() {
+    TestLibrary library;
+    const Run run({QStringLiteral("tree"), library.Path(QStringLiteral("none.tfmasm"))});
+    QCOMPARE(run.code, 3);
+    QVERIFY(run.err.contains(QLatin1String("none.tfmasm")));
+    QVERIFY(run.out.isEmpty());
+}
+
+void TestApp::aDocumentThatIsNoneEndsWithThree() {
+    TestLibrary library;
+    const Run run({QStringLiteral("tree"), library.MakeBroken(QStringLiteral("broken.tfmasm"))});
+    QCOMPARE(run.code, 3);
+    QVERIFY(run.err.contains(QLatin1String("broken.tfmasm")));
+}
+
+void TestApp::aChildThatCannotBeReadEndsWithOne() {
+    TestLibrary library;
+    const QString broken = library.MakeBroken(QStringLiteral("broken.tfmasm"));
+    const Run run({QStringLiteral("tree"), library.Make(QStringLiteral("top.tfmasm"), {{broken}})});
+    QCOMPARE(run.code, 1);
+    QVERIFY(run.out.contains(QLatin1String("broken.tfmasm")));
+    QVERIFY(run.err.contains(QLatin1String("broken.tfmasm")));
+}
+
+void TestApp::wrongUsageEndsWithTwo_data() {
+    QTest::addColumn<QStringList>("arguments");
+    const auto row = [](const char* name, const QStringList& arguments) {
+        QTest::newRow(name) << arguments;
+    };
+    row("no file", {QStringLiteral("tree")});
+    row("two files", {QStringLiteral("tree"), QStringLiteral("a"), QStringLiteral("b")});
+    row("unknown option", {QStringLiteral("--nonsense")});
+    row("json without tree", {QStringLiteral("a.tfmprt"), QStringLiteral("--json")});
+    row("unknown theme", {QStringLiteral("--theme"), QStringLiteral("plaid")});
+}
+
+void TestApp::wrongUsageEndsWithTwo() {
+    QFETCH(QStringList, arguments);
+    const Run run(arguments);
+    QCOMPARE(run.code, 2);
+    QVERIFY(run.err.contains(QLatin1String("--help")));
+}
+
+void TestApp::helpAndVersionArePrinted() {
+    const Run help({QStringLiteral("--help")});
+    QCOMPARE(help.code, 0);
+    QVERIFY(help.out.contains(QLatin1String("docbench tree FILE")));
+    const Run version({QStringLiteral("--version")});
+    QCOMPARE(version.code, 0);
+    QVERIFY(version.out.startsWith(QLatin1String("docbench ")));
+}
+
+void TestApp::theWindowOpensWithTheDocument_data() {
+    QTest::addColumn<QString>("theme");
+    QTest::newRow("light") << "light";
+    QTest::newRow("dark") << "dark";
+}
+
+void TestApp::theWindowOpensWithTheDocument() {
+    QFETCH(QString, theme);
+    TestLibrary library;
+    const QString pin = library.Make(QStringLiteral("pin.tfmprt"));
+    const QString picture = library.Path(QStringLiteral("window.png"));
+    const Run run({QStringLiteral("--screenshot"), picture, QStringLiteral("--theme"), theme,
+                   library.Make(QStringLiteral("top.tfmasm"), {{pin}})});
+    QCOMPARE(run.code, 0);
+    const QImage window(picture);
+    QVERIFY(window.width() >= 640);
+    // The empty area of the tree, in the lower left, is dark or light as was asked for.
+    const QColor background = window.pixelColor(window.width() / 4, window.height() * 3 / 4);
+    QCOMPARE(background.lightness() < 128, theme == QLatin1String("dark"));
+}
+
+DOCBENCH_TEST_MAIN(QCoreApplication, TestApp)
+#include "tst_app.moc"
