@@ -9,8 +9,6 @@
 #include <algorithm>
 #include <limits>
 
-#include "services/language.h"
-
 namespace docbench {
 namespace {
 
@@ -115,19 +113,6 @@ DocType DocTypeOf(const QString& path) {
     if (is(QLatin1String("TFMASM")) || is(QLatin1String("ASM")))
         return DocType::Assembly;
     return is(QLatin1String("TFMDRW")) ? DocType::Drawing : DocType::None;
-}
-
-QString RelationLabel(const QString& holder, const QString& reference) {
-    if (DocTypeOf(holder) != DocType::Part)
-        return gRelationDefault;
-    switch (DocTypeOf(reference)) {
-        case DocType::Part:
-            return gRelationPart;
-        case DocType::Assembly:
-            return gRelationAssembly;
-        default:
-            return gRelationDefault;
-    }
 }
 
 bool IsWebPath(const QString& path) {

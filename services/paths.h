@@ -30,9 +30,6 @@ QString BaseNameOf(const QString& path);         // a document's file name witho
 // as one.
 DocType DocTypeOf(const QString& path);
 
-// How a reference of `holder` is called: by the types of the two documents.
-QString RelationLabel(const QString& holder, const QString& reference);
-
 // True where "http" occurs anywhere in any case, in a local path too.
 bool IsWebPath(const QString& path);
 

@@ -5,6 +5,7 @@
 
 #include "services/language.h"
 #include "services/paths.h"
+#include "services/relationlabel.h"
 #include "tests/support/testenvironment.h"
 
 using namespace docbench;
