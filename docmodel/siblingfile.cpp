@@ -10,11 +10,12 @@ namespace docmodel {
 
 namespace {
 
+// From the system's numbers: a process and its fork would draw the same of their own.
 QByteArray RandomSiblingName(const QByteArray& target) {
     constexpr qsizetype kLongestName = 255;
     const QByteArray name = target.mid(target.lastIndexOf('/') + 1);
     const QByteArray random =
-        QByteArray::number(QRandomGenerator::global()->generate64(), 16).rightJustified(16, '0');
+        QByteArray::number(QRandomGenerator::system()->generate64(), 16).rightJustified(16, '0');
     const QByteArray end = '.' + random + ".tmp";
     return '.' + name.left(kLongestName - 1 - end.size()) + end;
 }
