@@ -72,8 +72,8 @@ public:
 
     // The bytes of a PNG, JPEG or BMP file; raises for anything else. Replaces the former preview.
     void SetPreview(const QByteArray& picture);
-    // Stands for the model's geometry: `bytes` bytes, the same for the same seed, which compress to
-    // somewhat more than half, as geometry does.
+    // Stands for the model's geometry: `bytes` bytes, the same for the same seed, which do not
+    // compress, as packed geometry doesn't.
     void SetModel(qint64 bytes, quint64 seed);
 
     // Writes the document. Raises DocumentError; the file is then as it was.

@@ -1,0 +1,133 @@
+#include "docmodel/documentcontent.h"
+
+#include <algorithm>
+
+namespace docmodel {
+
+namespace {
+
+template <typename Part>
+std::optional<Part> ReadPart(const Package& package, const PartKind& kind) {
+    const QByteArray name = FindPart(package, kind);
+    if (name.isEmpty())
+        return std::nullopt;
+    return Part(package.ReadPart(name, kMaxXmlBytes), package.Path(), name);
+}
+
+bool SamePart(const QByteArray& one, const QByteArray& other) {
+    return one.compare(other, Qt::CaseInsensitive) == 0;
+}
+
+}  // namespace
+
+std::optional<DocumentPart> ReadTables(const Package& package) {
+    return ReadPart<DocumentPart>(package, kDocumentKind);
+}
+
+std::optional<CoreProperties> ReadCore(const Package& package) {
+    return ReadPart<CoreProperties>(package, kCoreKind);
+}
+
+std::optional<CustomProperties> ReadCustom(const Package& package) {
+    return ReadPart<CustomProperties>(package, kCustomKind);
+}
+
+DocumentContent::DocumentContent(const Package* package, const QString& file)
+    : package_(package), file_(file) {}
+
+DocumentPart& DocumentContent::Tables() {
+    if (!tables_ && package_)
+        tables_ = ReadTables(*package_);
+    if (!tables_)
+        tables_.emplace();
+    return *tables_;
+}
+
+CoreProperties& DocumentContent::Core() {
+    if (!core_ && package_)
+        core_ = ReadCore(*package_);
+    if (!core_)
+        core_.emplace();
+    return *core_;
+}
+
+CustomProperties& DocumentContent::Custom() {
+    if (!custom_ && package_)
+        custom_ = ReadCustom(*package_);
+    if (!custom_)
+        custom_.emplace();
+    return *custom_;
+}
+
+void DocumentContent::Put(const PartKind& kind, const QByteArray& name, const QByteArray& type,
+                          const QByteArray& bytes) {
+    const QByteArray former = Find(kind);
+    if (!former.isEmpty() && !SamePart(former, name))
+        Remove(former);
+    others_.removeIf([&](const OtherPart& part) { return SamePart(part.name, name); });
+    others_.append({name, bytes});
+    Enter(kind, name, type);
+}
+
+DocumentContent::Parts DocumentContent::Changed() {
+    const QByteArray tables = Find(kDocumentKind);
+    if (tables != kDocumentPart) {
+        if (!tables.isEmpty())
+            Remove(tables);
+        Enter(kDocumentKind, kDocumentPart, kDocumentKind.contentType);
+        // What was found by its name alone is made known to others as well.
+        EnterIfThere(kCoreKind);
+        EnterIfThere(kCustomKind);
+    }
+    Parts parts;
+    if (core_) {
+        parts.append({NameFor(kCoreKind), core_->Bytes()});
+        Enter(kCoreKind, NameFor(kCoreKind), kCoreKind.contentType);
+    }
+    if (custom_ && custom_->IsChanged()) {
+        parts.append({NameFor(kCustomKind), custom_->Bytes()});
+        Enter(kCustomKind, NameFor(kCustomKind), kCustomKind.contentType);
+    }
+    for (const OtherPart& part : others_)
+        parts.append({part.name, part.bytes});
+    if (relationships_ && relationships_->IsChanged())
+        parts.prepend({Relationships::kPart, relationships_->Bytes()});
+    if (types_ && types_->IsChanged())
+        parts.prepend({ContentTypes::kPart, types_->Bytes()});
+    return parts;
+}
+
+void DocumentContent::EnterIfThere(const PartKind& kind) {
+    if (const QByteArray name = Find(kind); !name.isEmpty())
+        Enter(kind, name, kind.contentType);
+}
+
+void DocumentContent::Enter(const PartKind& kind, const QByteArray& name, const QByteArray& type) {
+    // A part that the package has is entered already, except where our tables are new to it.
+    if (Find(kind) == name && !types_)
+        return;
+    if (!types_)
+        types_.emplace(package_);
+    if (!relationships_)
+        relationships_.emplace(package_);
+    types_->Set(name, type);
+    relationships_->Set(kind, name);
+}
+
+void DocumentContent::Remove(const QByteArray& name) {
+    removed_.append(name);
+    if (!types_)
+        types_.emplace(package_);
+    types_->Remove(name);
+}
+
+QByteArray DocumentContent::Find(const PartKind& kind) const {
+    return package_ ? FindPart(*package_, kind) : QByteArray();
+}
+
+QByteArray DocumentContent::NameFor(const PartKind& kind) const {
+    const QByteArray name = Find(kind);
+    return name.isEmpty() ? QByteArray(kind.name) : name;
+}
+
+}  // namespace docmodel

@@ -1,0 +1,30 @@
+# The document layer: the parts' contents, the access objects, the plug-in and the tool.
+target_sources(docmodel_core PRIVATE
+    access.cpp
+    builder.cpp
+    configurationinfo.cpp
+    coreproperties.cpp
+    customproperties.cpp
+    documentchange.cpp
+    documentcontent.cpp
+    documentfileobject.cpp
+    documentinfoobject.cpp
+    documentpart.cpp
+    foldersearcherobject.cpp
+    languagesettingsobject.cpp
+    opc.cpp
+    picture.cpp
+    previewextractorobject.cpp
+    propertyset.cpp
+    propertyvalue.cpp
+    referencepath.cpp
+    xml.cpp
+    # What a document's name means and who the user is has one home; the library takes it from there
+    # without taking the services.
+    ${PROJECT_SOURCE_DIR}/services/paths.cpp
+    ${PROJECT_SOURCE_DIR}/services/username.cpp)
+
+# A program loads it from its own folder by this name.
+add_library(docmodel MODULE plugin.cpp)
+set_target_properties(docmodel PROPERTIES PREFIX "")
+target_link_libraries(docmodel PRIVATE docmodel_core)

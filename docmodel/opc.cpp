@@ -1,0 +1,156 @@
+#include "docmodel/opc.h"
+
+#include <cstring>
+
+namespace docmodel {
+
+namespace {
+
+constexpr char kTypesNamespace[] = "http://schemas.openxmlformats.org/package/2006/content-types";
+constexpr char kRelationshipsNamespace[] =
+    "http://schemas.openxmlformats.org/package/2006/relationships";
+
+bool SameText(const char* one, const QByteArray& other) {
+    return qstricmp(one, other.constData()) == 0;
+}
+
+XmlPart PartOrNew(const Package* package, const char* part, const char* root,
+                  const char* namespaceUri) {
+    return package && package->HasPart(part)
+               ? XmlPart::Parse(package->ReadPart(part, kMaxXmlBytes), package->Path(), part)
+               : XmlPart::Make(root, namespaceUri);
+}
+
+// A target is relative to the package's root, "/" or not.
+QByteArray PartNameOf(const char* target) {
+    QList<QByteArray> steps;
+    for (const QByteArray& step : QByteArray(target).split('/')) {
+        if (step.isEmpty() || step == ".")
+            continue;
+        if (step != "..")
+            steps.append(step);
+        else if (!steps.isEmpty())
+            steps.removeLast();
+    }
+    return steps.join('/');
+}
+
+}  // namespace
+
+const PartKind kDocumentKind = {
+    kDocumentPart, "application/vnd.tessaforma.docmodel+xml",
+    "http://schemas.tessaforma.com/docmodel/2004/relationships/document", nullptr};
+const PartKind kCoreKind = {
+    "docProps/core.xml", "application/vnd.openxmlformats-package.core-properties+xml",
+    "http://schemas.openxmlformats.org/package/2006/relationships/metadata/core-properties",
+    "http://schemas.openxmlformats.org/officedocument/2006/relationships/metadata/core-properties"};
+const PartKind kCustomKind = {
+    "docProps/custom.xml", "application/vnd.openxmlformats-officedocument.custom-properties+xml",
+    "http://schemas.openxmlformats.org/officeDocument/2006/relationships/custom-properties",
+    "http://purl.oclc.org/ooxml/officeDocument/relationships/customProperties"};
+const PartKind kThumbnailKind = {
+    "docProps/thumbnail.png", "image/png",
+    "http://schemas.openxmlformats.org/package/2006/relationships/metadata/thumbnail",
+    "http://purl.oclc.org/ooxml/officeDocument/relationships/metadata/thumbnail"};
+const PartKind kModelKind = {"model/geometry.bin", "application/octet-stream",
+                             "http://schemas.tessaforma.com/docmodel/2004/relationships/model",
+                             nullptr};
+
+ContentTypes::ContentTypes(const Package* package)
+    : xml_(PartOrNew(package, kPart, "Types", kTypesNamespace)) {
+    const auto addDefault = [this](const char* extension, const char* type) {
+        for (const pugi::xml_node child : xml_.Root())
+            if (IsElement(child, kTypesNamespace, "Default") &&
+                SameText(child.attribute("Extension").value(), extension))
+                return;
+        pugi::xml_node added = AppendElement(xml_.Root(), kTypesNamespace, "Default", "");
+        added.append_attribute("Extension") = extension;
+        added.append_attribute("ContentType") = type;
+        changed_ = true;
+    };
+    addDefault("rels", "application/vnd.openxmlformats-package.relationships+xml");
+    addDefault("xml", "application/xml");
+}
+
+pugi::xml_node ContentTypes::Find(const QByteArray& part) const {
+    for (const pugi::xml_node child : xml_.Root())
+        if (IsElement(child, kTypesNamespace, "Override") &&
+            SameText(child.attribute("PartName").value(), '/' + part))
+            return child;
+    return {};
+}
+
+void ContentTypes::Set(const QByteArray& part, const QByteArray& type) {
+    pugi::xml_node entry = Find(part);
+    if (entry && SameText(entry.attribute("ContentType").value(), type))
+        return;
+    if (!entry) {
+        entry = AppendElement(xml_.Root(), kTypesNamespace, "Override", "");
+        entry.append_attribute("PartName") = QByteArray('/' + part).constData();
+    }
+    entry.remove_attribute("ContentType");
+    entry.append_attribute("ContentType") = type.constData();
+    changed_ = true;
+}
+
+void ContentTypes::Remove(const QByteArray& part) {
+    if (const pugi::xml_node entry = Find(part)) {
+        xml_.Root().remove_child(entry);
+        changed_ = true;
+    }
+}
+
+Relationships::Relationships(const Package* package)
+    : xml_(PartOrNew(package, kPart, "Relationships", kRelationshipsNamespace)) {}
+
+pugi::xml_node Relationships::Find(const PartKind& kind) const {
+    for (const pugi::xml_node child : xml_.Root()) {
+        if (!IsElement(child, kRelationshipsNamespace, "Relationship") ||
+            std::strcmp(child.attribute("TargetMode").value(), "External") == 0)
+            continue;
+        const char* type = child.attribute("Type").value();
+        if (std::strcmp(type, kind.relationship) == 0 ||
+            (kind.strictRelationship && std::strcmp(type, kind.strictRelationship) == 0))
+            return child;
+    }
+    return {};
+}
+
+QByteArray Relationships::Target(const PartKind& kind) const {
+    return PartNameOf(Find(kind).attribute("Target").value());
+}
+
+QByteArray Relationships::FreeId() const {
+    for (int number = 1;; ++number) {
+        const QByteArray id = "rId" + QByteArray::number(number);
+        if (!xml_.Root().find_child_by_attribute("Id", id.constData()))
+            return id;
+    }
+}
+
+void Relationships::Set(const PartKind& kind, const QByteArray& part) {
+    pugi::xml_node entry = Find(kind);
+    if (entry && SameText(PartNameOf(entry.attribute("Target").value()).constData(), part))
+        return;
+    if (!entry) {
+        entry = AppendElement(xml_.Root(), kRelationshipsNamespace, "Relationship", "");
+        entry.append_attribute("Id") = FreeId().constData();
+        entry.append_attribute("Type") = kind.relationship;
+    }
+    entry.remove_attribute("Target");
+    entry.append_attribute("Target") = part.constData();
+    changed_ = true;
+}
+
+QByteArray FindPart(const Package& package, const PartKind& kind) {
+    if (package.HasPart(kDocumentPart) && package.HasPart(kind.name))
+        return kind.name;
+    if (package.HasPart(Relationships::kPart)) {
+        const QByteArray named = Relationships(&package).Target(kind);
+        if (!named.isEmpty() && package.HasPart(named))
+            return named;
+    }
+    return package.HasPart(kind.name) ? QByteArray(kind.name) : QByteArray();
+}
+
+}  // namespace docmodel

@@ -1,0 +1,57 @@
+#include "docmodel/previewextractorobject.h"
+
+#include <QImageWriter>
+#include <QSaveFile>
+
+#include "docmodel/opc.h"
+#include "docmodel/picture.h"
+
+namespace docmodel {
+
+namespace {
+
+enum Result { kExtracted = 0, kFailed = -1, kNoPreview = -2 };
+
+constexpr qint64 kMaxPictureBytes = 64 << 20;
+
+// The names that writers without relationships give it.
+constexpr const char* kUsualNames[] = {"docProps/thumbnail.png", "docProps/thumbnail.jpeg",
+                                       "docProps/thumbnail.jpg", "docProps/thumbnail.bmp"};
+
+QByteArray PreviewPart(const Package& package) {
+    const QByteArray named = FindPart(package, kThumbnailKind);
+    if (!named.isEmpty())
+        return named;
+    for (const char* name : kUsualNames)
+        if (package.HasPart(name))
+            return name;
+    return {};
+}
+
+// Whole or not at all: the former bitmap stays until the new one is written.
+bool WriteBitmap(const QImage& picture, const QString& path) {
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    QImageWriter writer(&file, "bmp");
+    return writer.write(picture) && file.commit();
+}
+
+}  // namespace
+
+int PreviewExtractorObject::ExtractPreview(const QString& path, const QString& bitmapPath) {
+    try {
+        const Package package = Package::Open(path);
+        const QByteArray part = PreviewPart(package);
+        if (part.isEmpty())
+            return kNoPreview;
+        const QImage picture = ReadPicture(package.ReadPart(part, kMaxPictureBytes));
+        if (picture.isNull())
+            return kFailed;
+        return WriteBitmap(picture, bitmapPath) ? kExtracted : kFailed;
+    } catch (const DocumentError&) {
+        return kFailed;  // the result has no room for the reason
+    }
+}
+
+}  // namespace docmodel

@@ -1,0 +1,64 @@
+#include "docmodel/propertyset.h"
+
+#include <algorithm>
+
+namespace docmodel {
+
+PropertySet::PropertySet(QList<CustomProperty> properties)
+    : current_(std::move(properties)), stamp_(StampOf(current_)) {}
+
+const CustomProperty& PropertySet::At(int index, const QString& file) const {
+    if (index < 0 || index >= current_.size())
+        throw docbench::DocumentError(
+            QStringLiteral("The document %1 has no custom property at position %2, but %3 of them. "
+                           "Open it again.")
+                .arg(file)
+                .arg(index)
+                .arg(current_.size()));
+    return current_[index];
+}
+
+bool PropertySet::Set(const QString& name, const QVariant& value) {
+    const std::optional<PropertyValue> stored = PropertyValueFor(value);
+    if (name.isEmpty() || !IsXmlText(name) || !stored)
+        return false;
+    const qsizetype index = Find(name);
+    if (index < 0) {
+        current_.append({name, stored->value, stored->type});
+    } else {
+        CustomProperty& property = current_[index];
+        if (PropertyValue{property.value, PropertyType(property.type)} == *stored)
+            return true;
+        property.value = stored->value;
+        property.type = stored->type;
+    }
+    edits_.append({name, stored});
+    return true;
+}
+
+bool PropertySet::Delete(const QString& name) {
+    const qsizetype index = Find(name);
+    if (index < 0)
+        return false;
+    current_.removeAt(index);
+    edits_.append({name, std::nullopt});
+    return true;
+}
+
+void PropertySet::ApplyTo(PropertyTarget& target) const {
+    for (const Edit& edit : edits_) {
+        if (edit.value)
+            target.Set(edit.name, *edit.value);
+        else
+            target.Delete(edit.name);
+    }
+}
+
+qsizetype PropertySet::Find(const QString& name) const {
+    const auto found =
+        std::find_if(current_.begin(), current_.end(),
+                     [&](const CustomProperty& property) { return SameName(property.name, name); });
+    return found == current_.end() ? -1 : found - current_.begin();
+}
+
+}  // namespace docmodel

@@ -1,0 +1,39 @@
+// How a reference names its document: what is stored for a path, and what a stored row points at.
+#pragma once
+
+#include <QString>
+
+#include "services/docaccess.h"
+
+namespace docmodel {
+
+// Both ways of finding the document, as they stand in the row.
+struct StoredPath {
+    QString path;      // as it was given: a URL, or an absolute path
+    QString relative;  // from the holder's folder; empty for a URL and where there is no way
+    bool operator==(const StoredPath& other) const {
+        return path == other.path && relative == other.relative;
+    }
+};
+
+bool IsUrl(const QString& path);  // "http://" or "https://", in any case
+
+// A local path with single separators and without "." and "..". Links are not looked at. A "\" is a
+// separator in a path that has no "/" or that begins with a drive letter, else part of a name.
+QString CleanPath(const QString& path);
+
+// The folder of a document, absolute, clean and ending in a separator. `path` may be relative to
+// the working folder.
+QString HolderFolder(const QString& path);
+
+// What a row of a document in `holderFolder` stores for `path`: a URL, an absolute path, or a path
+// relative to that folder.
+StoredPath StoredPathFor(const QString& path, const QString& holderFolder);
+
+// What a row points at, cleaned: a stored URL as it stands; with a web folder, the relative path in
+// that; else the absolute path if it exists; else the relative one if that exists; else the
+// absolute one.
+QString ResolvePath(const StoredPath& stored, const QString& holderFolder,
+                    const QString& webFolder);
+
+}  // namespace docmodel
