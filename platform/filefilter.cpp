@@ -1,15 +1,22 @@
 #include "platform/filefilter.h"
 
+#include <QRegularExpression>
+
 namespace docbench {
 namespace {
 
-// "*.prt" as "*.[pP][rR][tT]" is hard to read in the dialog; where only the toolkit's own dialog
-// looks at letter case, both spellings that occur in practice do.
+// Both spellings that occur in practice: "*.[pP][rR][tT]", for any, is hard to read in the dialog.
 QString Pattern(const QString& pattern) {
     if (pattern == QLatin1String("*.*"))
         return QStringLiteral("*");
     const QString upper = pattern.toUpper();
     return upper == pattern ? pattern : pattern + u' ' + upper;
+}
+
+// The dialog shows the patterns itself.
+QString WithoutPatterns(QString label) {
+    static const QRegularExpression patterns(QStringLiteral("\\s*\\([^()]*\\*[^()]*\\)\\s*$"));
+    return label.remove(patterns).trimmed();
 }
 
 }  // namespace
@@ -21,9 +28,9 @@ QStringList NameFiltersOf(const QString& filter) {
         QStringList patterns;
         for (const QString& pattern : pieces[i + 1].split(u';', Qt::SkipEmptyParts))
             patterns.append(Pattern(pattern.trimmed()));
-        const QString label = pieces[i].section(u'(', 0, 0).trimmed();
         if (!patterns.isEmpty())
-            filters.append(label + QStringLiteral(" (") + patterns.join(u' ') + u')');
+            filters.append(WithoutPatterns(pieces[i]) + QStringLiteral(" (") + patterns.join(u' ') +
+                           u')');
     }
     return filters;
 }

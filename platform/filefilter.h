@@ -6,9 +6,9 @@
 
 namespace docbench {
 
-// "Parts|*.tfmprt;*.prt|All|*.*" becomes "Parts (*.tfmprt *.prt)", "All (*)". Patterns match in any
-// case, and a label that already shows its patterns in brackets shows them once. A label without
-// patterns is left out.
+// "Parts|*.tfmprt;*.prt|All|*.*" becomes "Parts (*.tfmprt *.prt)", "All (*)", with each
+// pattern in capitals too. A label that already shows its patterns in brackets shows them once. A
+// label without patterns is left out.
 QStringList NameFiltersOf(const QString& filter);
 
 }  // namespace docbench

@@ -1,9 +1,14 @@
 #include "services/settingsstore.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QStandardPaths>
+#include <QThread>
 #include <utility>
 
 #include "services/inifile.h"
@@ -11,7 +16,35 @@
 namespace docbench {
 namespace {
 
-constexpr int kLockWait = 3000;  // ms; a writer holds the lock for a few of them
+// Keeps other writers out for as long as it lives. The lock is on the folder, since the file is
+// another one after each write; it ends with the process, and nothing is left on disk.
+class WriterLock {
+public:
+    explicit WriterLock(const QString& folder)
+        : handle_(
+              ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+        constexpr int kLongestWait = 5000;  // ms; a writer takes a few, unless it is stopped
+        QElapsedTimer waited;
+        waited.start();
+        while (handle_ >= 0 && !held_ && !waited.hasExpired(kLongestWait)) {
+            held_ = ::flock(handle_, LOCK_EX | LOCK_NB) == 0;
+            if (!held_)
+                QThread::msleep(1);
+        }
+    }
+    ~WriterLock() {
+        if (handle_ >= 0)
+            ::close(handle_);
+    }
+    WriterLock(const WriterLock&) = delete;
+    WriterLock& operator=(const WriterLock&) = delete;
+
+    bool Held() const { return held_; }
+
+private:
+    int handle_;
+    bool held_ = false;
+};
 
 // The first of the system's configuration folders; asked afresh, since a program may be told
 // another.
@@ -97,8 +130,8 @@ bool SettingsKey::Write(const QString& name, const std::optional<QString>& value
     if (!QDir().mkpath(folder) || !MayWrite(folder) || !MayWrite(file_))
         return false;
     // The file is read again under the lock, so that what others wrote meanwhile is kept.
-    QLockFile lock(file_ + QStringLiteral(".lock"));
-    if (!lock.tryLock(kLockWait))
+    const WriterLock lock(folder);
+    if (!lock.Held())
         return false;
     IniFile store;
     if (!store.Load(file_))

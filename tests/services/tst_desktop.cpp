@@ -53,6 +53,7 @@ private Q_SLOTS:
         QTest::newRow("Parts|*.tfmprt;*.prt|All files|*.*")
             << QStringList({"Parts (*.tfmprt *.TFMPRT *.prt *.PRT)", "All files (*)"});
         QTest::newRow("Parts (*.prt)|*.prt") << QStringList({"Parts (*.prt *.PRT)"});
+        QTest::newRow("Parts (2004) (*.1, *.2)|*.1") << QStringList({"Parts (2004) (*.1)"});
         QTest::newRow("Parts|*.prt|") << QStringList({"Parts (*.prt *.PRT)"});
         QTest::newRow("Nothing||Parts|*.1") << QStringList({"Parts (*.1)"});
     }

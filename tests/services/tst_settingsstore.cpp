@@ -15,7 +15,7 @@ using Hive = SettingsKey::Hive;
 namespace {
 
 constexpr char kWriter[] = "--writer";
-constexpr int kWrites = 60;
+constexpr int kWrites = 25;
 const QString kKey = QLatin1String(docbench::kExtReferencesKey);
 
 QString UserFile() {
