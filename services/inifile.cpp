@@ -129,9 +129,7 @@ QString IniFile::EncodeLevel(const QString& text) {
     for (qsizetype at = 0; at < text.size(); ++at) {
         const QChar c = text[at];
         const bool outer = at == 0 || at == text.size() - 1;
-        if (IsPlain(c) && !c.isSpace() && !c.isSurrogate())
-            encoded += c;
-        else if (c == u' ' && !outer)
+        if ((IsPlain(c) && !c.isSpace() && !c.isSurrogate()) || (c == u' ' && !outer))
             encoded += c;
         else if (c.unicode() <= 0xff)
             encoded += u'%' + QStringLiteral("%1").arg(c.unicode(), 2, 16, QLatin1Char('0'));

@@ -53,8 +53,7 @@ bool IsSafe(const QByteArray& folder) {
 // The user's folder by its plain name; where another user has taken that name, one that can't be
 // guessed, which later processes do not find, so that this one must clear it away itself.
 QString MakeUserFolder(const QString& parent) {
-    const QString plain =
-        QDir(parent).filePath(QStringLiteral("docbench-%1").arg(uint(::geteuid())));
+    QString plain = QDir(parent).filePath(QStringLiteral("docbench-%1").arg(uint(::geteuid())));
     if (IsSafe(QFile::encodeName(plain)))
         return plain;
     QByteArray other = QFile::encodeName(plain) + "-XXXXXX";
