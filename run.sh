@@ -25,16 +25,17 @@ echo "No display. The reference tree of $file:"
 echo
 "$bin/docbench" tree "$file"
 
-copy=$(mktemp -d)/gearbox
-trap 'rm -rf "$(dirname "$copy")"' EXIT
-cp -r "$(dirname "$assembly")" "$copy"
+# Made anew, not copied: a copied document still points at the references of the one it was copied from.
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+copy=$("$bin/docbench-samples" "$scratch/gearbox" | tail -n 1)
+part=$(find "$scratch" -name '*screw*.tfmprt' | sort | head -n 1)
 echo
-echo "In a copy of the sample library, a part is renamed and every document that holds it rewritten:"
+echo "In a scratch library, $(basename "$part") is renamed and every document that holds it rewritten:"
 echo
-"$bin/docbench-rename-sample" "$copy" "$copy/$(cd "$(dirname "$assembly")" && find . -name 'screw*.tfmprt' | sort | head -n 1)" \
-    "machine screw.tfmprt"
+"$bin/docbench-rename-sample" "$scratch" "$part" "renamed fastener.tfmprt"
 echo
-"$bin/docbench" tree "$copy/$(basename "$assembly")"
+"$bin/docbench" tree "$copy"
 
 echo
 "$bin/docbench" --screenshot "$out/docbench.png" "$file"

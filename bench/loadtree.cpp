@@ -10,7 +10,7 @@
 
 #include "bench/documents.h"
 #include "bench/ratios.h"
-#include "docmodel/objects.h"
+#include "docmodel/access.h"
 #include "services/language.h"
 #include "services/seams.h"
 #include "shell/picturestore.h"
@@ -117,7 +117,7 @@ void LargeTreeInAView(const QTemporaryDir& folder) {
 
 int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
-    const auto library = docmodel::MakeDocumentAccess();
+    const auto library = std::make_unique<docmodel::Access>();
     gSeams.documents = library.get();
     LoadResources();
     const QTemporaryDir folder;

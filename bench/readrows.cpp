@@ -11,7 +11,7 @@
 
 #include "bench/documents.h"
 #include "bench/ratios.h"
-#include "docmodel/objects.h"
+#include "docmodel/access.h"
 
 namespace {
 
@@ -38,7 +38,7 @@ void BareRead(benchmark::State& state) {
 }
 
 void ReadRows(benchmark::State& state) {
-    const auto library = docmodel::MakeDocumentAccess();
+    const auto library = std::make_unique<docmodel::Access>();
     const QString noWebFolder;
     qsizetype next = 0;
     for (auto _ : state) {

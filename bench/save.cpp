@@ -11,7 +11,7 @@
 
 #include "bench/documents.h"
 #include "bench/ratios.h"
-#include "docmodel/objects.h"
+#include "docmodel/access.h"
 
 namespace {
 
@@ -31,7 +31,7 @@ void BareAppend(benchmark::State& state) {
 }
 
 void SaveReference(benchmark::State& state, const QString& path) {
-    const auto library = docmodel::MakeDocumentAccess();
+    const auto library = std::make_unique<docmodel::Access>();
     int turn = 0;
     for (auto _ : state) {
         const auto file = library->MakeDocumentFile();

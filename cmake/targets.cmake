@@ -14,6 +14,8 @@ target_link_libraries(docaccess INTERFACE Qt6::Core Qt6::Gui docbench_flags)
 add_library(docbench_settings STATIC)
 target_include_directories(docbench_settings PUBLIC ${PROJECT_SOURCE_DIR})
 target_link_libraries(docbench_settings PUBLIC Qt6::Core docbench_flags)
+set_target_properties(docbench_settings PROPERTIES
+    CXX_VISIBILITY_PRESET default VISIBILITY_INLINES_HIDDEN OFF)
 
 # Services, cells and the widget-free half of every subsystem. Qt Widgets stays out of it. Shared, so
 # that a host and the controls have one set of the process-wide variables.
@@ -23,7 +25,7 @@ set_target_properties(docbench_core PROPERTIES
 target_include_directories(docbench_core PUBLIC ${PROJECT_SOURCE_DIR})
 target_link_libraries(docbench_core
     PUBLIC docaccess Qt6::Core Qt6::Gui
-    PRIVATE docbench_settings Qt6::DBus)
+    PRIVATE "$<LINK_LIBRARY:WHOLE_ARCHIVE,docbench_settings>" Qt6::DBus)
 target_precompile_headers(docbench_core PRIVATE <QtCore> <QtGui>)
 
 # The panes. The shared library shows hosts the classes marked DOCBENCH_EXPORT and nothing else; tests

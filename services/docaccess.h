@@ -11,8 +11,8 @@
 
 namespace docbench {
 
-// Raised by every failing operation of the library. The description is a whole sentence for the user:
-// it names the file, the reason and, where there is something to do, what.
+// Raised by every failing operation of the library. The description is a whole sentence for the
+// user: it names the file, the reason and, where there is something to do, what.
 class Q_DECL_EXPORT DocumentError : public std::exception {
 public:
     explicit DocumentError(QString description)
@@ -25,7 +25,8 @@ private:
     QByteArray bytes_;
 };
 
-// One row of the component table: a part or subassembly placed in an assembly or shown by a drawing.
+// One row of the component table: a part or subassembly placed in an assembly or shown by a
+// drawing.
 struct ComponentRow {
     QString name;       // title: the file name of `path` without its extension
     QString extension;  // of `path`, without the dot
@@ -51,13 +52,14 @@ struct CustomProperty {
 enum class Table { Components, ExternalReferences, Configurations, Hyperlinks };
 
 // A document's summary and custom properties and its lock record; or, as GetCustomProperties of a
-// DocumentFile gives it, the custom properties of one configuration, whose summary fields stay empty.
+// DocumentFile gives it, the custom properties of one configuration, whose summary fields stay
+// empty.
 class DocumentInfo {
 public:
     virtual ~DocumentInfo() = default;
 
-    // Binds the object to the file. False, never an error, when the file is not there, can't be read
-    // or holds no such record; the object is then unbound and every other call raises.
+    // Binds the object to the file. False, never an error, when the file is not there, can't be
+    // read or holds no such record; the object is then unbound and every other call raises.
     virtual bool Open(const QString& path) = 0;
 
     virtual QString GetTitle() = 0;
@@ -70,19 +72,19 @@ public:
     virtual void SetKeywords(const QString& text) = 0;
     virtual QString GetSubject() = 0;
     virtual void SetSubject(const QString& text) = 0;
-    virtual QString GetCreated() = 0;      // by the user's locale; empty when not stored
+    virtual QString GetCreated() = 0;  // by the user's locale; empty when not stored
     virtual QString GetLastSavedBy() = 0;
-    virtual QString GetLastSaved() = 0;    // by the user's locale
+    virtual QString GetLastSaved() = 0;  // by the user's locale
 
     virtual int GetCustomCount() = 0;
     virtual CustomProperty GetCustomProperty(int index) = 0;  // index from 0
-    // Adds or overwrites. The stored type follows the value's: date and time, double, bool, else text.
-    // False when the name is empty or can't be stored.
+    // Adds or overwrites. The stored type follows the value's: date and time, double, bool, else
+    // text. False when the name is empty or can't be stored.
     virtual bool SetCustomProperty(const QString& name, const QVariant& value) = 0;
     virtual bool DeleteCustomProperty(const QString& name) = 0;  // false when there is none
 
-    // Writes what this object changed, and only that. Raises when somebody else has changed the same
-    // properties since Open, and when the file can't be written; the file is then as it was.
+    // Writes what this object changed, and only that. Raises when somebody else has changed the
+    // same properties since Open, and when the file can't be written; the file is then as it was.
     virtual void Save() = 0;
 
     virtual bool GetLocked() = 0;
@@ -90,19 +92,20 @@ public:
     virtual QString GetLockedBy() = 0;
     virtual void SetLockedBy(const QString& user) = 0;
 
-    // Digest of the properties as they were at Open or at the last own Save, leaving out dates, last
-    // saver and lock. Two equal stamps mean that nobody changed the properties in between.
+    // Digest of the properties as they were at Open or at the last own Save, leaving out dates,
+    // last saver and lock. Two equal stamps mean that nobody changed the properties in between.
     virtual QByteArray GetStamp() = 0;
 };
 
-// One document's references, configurations and hyperlinks. Positions count from 0 and hold until the
-// object is saved.
+// One document's references, configurations and hyperlinks. Positions count from 0 and hold until
+// the object is saved.
 class DocumentFile {
 public:
     virtual ~DocumentFile() = default;
 
     // Binds the object to the file at a local path and reads it. Raises when it can't be read; the
-    // object is then unbound and every other call but Open, OpenHyperlinks and GetAccessState raises.
+    // object is then unbound and every other call but Open, OpenHyperlinks and GetAccessState
+    // raises.
     virtual void Open(const QString& path) = 0;
     virtual int GetComponentCount() = 0;
     virtual int GetConfigurationCount() = 0;
@@ -113,7 +116,8 @@ public:
     virtual QString GetConfiguration(int index) = 0;  // the configuration's name
     // Renames in memory. Status 0: done, else: no such id, or the name is empty or taken.
     virtual int RenameConfiguration(int id, const QString& newName) = 0;
-    virtual int GetConfigurationType(int index) = 0;  // 0 ordinary, 1 not to be deleted, other: internal
+    virtual int GetConfigurationType(
+        int index) = 0;  // 0 ordinary, 1 not to be deleted, other: internal
     // Deletes in memory; ids keep their meaning until Save, and deleting again succeeds. Mode is 2.
     // Status 0: done, else: no such id, or the configuration may not be deleted.
     virtual int DeleteConfiguration(int id, int mode) = 0;
@@ -130,12 +134,12 @@ public:
     virtual int GetExternalReferenceCount() = 0;
     virtual void SetExternalReferencePath(int index, const QString& newPath) = 0;
     virtual bool IsCurrentFormat() = 0;  // false: too old for the tables
-    // Whether the document may be written now: 0 yes, 2 read-only, 3 in use by another process, 4 any
-    // other reason. Needs no Open.
+    // Whether the document may be written now: 0 yes, 2 read-only, 3 in use by another process, 4
+    // any other reason. Needs no Open.
     virtual int GetAccessState(const QString& path) = 0;
     virtual bool GetReferencesLocked() = 0;
-    // `webFolder` is the URL of the document's folder, ending in "/", for a copy of a web document, so
-    // that relative rows come back as URLs; else empty.
+    // `webFolder` is the URL of the document's folder, ending in "/", for a copy of a web document,
+    // so that relative rows come back as URLs; else empty.
     virtual ComponentRow GetComponent(int index, const QString& webFolder) = 0;
     virtual ExternalRow GetExternalReference(int index, const QString& webFolder) = 0;
 
@@ -150,7 +154,8 @@ public:
     virtual ~FolderSearcher() = default;
 
     virtual int GetRegistryValueCount() = 0;
-    // Name and value of the value at `index`, in the key's order from 0; empty texts beyond the end.
+    // Name and value of the value at `index`, in the key's order from 0; empty texts beyond the
+    // end.
     virtual std::pair<QString, QString> EnumRegistryValue(int index) = 0;
     // Status 0: written. Any other: not.
     virtual int SetRegistryValue(const QString& name, const QString& value) = 0;

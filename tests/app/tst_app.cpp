@@ -77,7 +77,8 @@ void TestApp::treePrintsEveryRowWithItsPath() {
     QCOMPARE(lines[2], QStringLiteral("    pin  (6 x)  ") + f + QStringLiteral("pin.tfmprt"));
     QVERIFY(lines[3].contains(QLatin1String("[circular]")));
     QVERIFY(lines[4].contains(QLatin1String("[locked]")));
-    QCOMPARE(lines[5], QStringLiteral("  lost [missing]  ") + f + QStringLiteral("lost.tfmprt"));
+    QVERIFY(lines[5].startsWith(QLatin1String("  lost [missing]")));
+    QVERIFY(lines[5].endsWith(f + QStringLiteral("lost.tfmprt")));
     QVERIFY(run.err.contains(QLatin1String("top.tfmasm")));  // the message about the cycle
 }
 

@@ -30,7 +30,8 @@ CellRow Row(const QString& name, const QString& folder) {
 
 void TestCellList::rowsAndCellsAreReadBackAsTheyWerePut() {
     CellList list;
-    const QAbstractItemModelTester tester(&list, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    const QAbstractItemModelTester tester(&list,
+                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
     list.SetHeaders({{QStringLiteral("Name")}, {QStringLiteral("Folder")}});
     list.Append(Row(QStringLiteral("a"), QStringLiteral("/x/")));
     list.Append(std::vector{Row(QStringLiteral("b"), QStringLiteral("/y/")),
@@ -86,7 +87,8 @@ void TestCellList::changesOfManyRowsAreAnnouncedOnce() {
 void TestCellList::headersKeepTheirTag() {
     CellList list;
     list.SetHeaders({{QStringLiteral("File"), QStringLiteral("S")}});
-    QCOMPARE(list.headerData(0, Qt::Horizontal, Qt::DisplayRole).toString(), QStringLiteral("File"));
+    QCOMPARE(list.headerData(0, Qt::Horizontal, Qt::DisplayRole).toString(),
+             QStringLiteral("File"));
     list.SetHeader(0, {QStringLiteral("Path"), QStringLiteral("L")});
     QCOMPARE(list.Headers()[0].tag, QStringLiteral("L"));
 }

@@ -55,7 +55,8 @@ void TestCellTree::aSubtreeEndsAtItsLastDescendant() {
 
 void TestCellTree::theModelFollowsTheNodes() {
     CellTree tree;
-    const QAbstractItemModelTester tester(&tree, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    const QAbstractItemModelTester tester(&tree,
+                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
     tree.SetPictures([](const QString&) { return QIcon(); });
     tree.Assign(SmallTree());
     const QModelIndex root = tree.index(0, 0);

@@ -17,7 +17,11 @@ class TestLocking : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { LoadResources(); }
+    void initTestCase() {
+        const TestLibrary library;
+        const TestDialogs dialogs;
+        LoadResources();
+    }
     void lockingWritesFlagAndUserIntoTheDocument();
     void unlockingClearsThem();
     void aSecondLockByTheSameUserIsHarmless();

@@ -16,7 +16,11 @@ class TestTreeWalk : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { LoadResources(); }
+    void initTestCase() {
+        const TestLibrary library;
+        const TestDialogs dialogs;
+        LoadResources();
+    }
     void aRowOfSixInstancesIsOneNodeWithItsCount();
     void aSingleInstanceHasTheLabelWithATrailingBlank();
     void everyRowIsANodeOfItsOwn();
@@ -306,7 +310,7 @@ void TestTreeWalk::everyDistinctDocumentIsReadOnce() {
 }
 
 void TestTreeWalk::aLongChainOfReferencesIsWalkedToItsEnd() {
-    constexpr int kLength = 3000;
+    constexpr int kLength = 300;
     TestLibrary library;
     const TestDialogs dialogs;
     QString below = library.Make(QStringLiteral("end.tfmprt"));

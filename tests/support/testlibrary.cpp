@@ -4,7 +4,7 @@
 #include <QFileInfo>
 
 #include "docmodel/builder.h"
-#include "docmodel/objects.h"
+#include "docmodel/access.h"
 #include "services/seams.h"
 
 namespace docbench {
@@ -16,7 +16,7 @@ using docmodel::DocumentBuilder;
 }  // namespace
 
 TestLibrary::TestLibrary() : former_(gSeams.documents) {
-    static const std::unique_ptr<DocumentAccess> library = docmodel::MakeDocumentAccess();
+    static const std::unique_ptr<DocumentAccess> library = std::make_unique<docmodel::Access>();
     gSeams.documents = library.get();
 }
 
