@@ -41,8 +41,10 @@ const std::pair<QString*, TextId<0>> kAliases[] = {
     {&gRelationPart, Text::RelationPart},
 };
 
+// Empty delimiters keep the reader from trying shorter names.
 bool LoadFrom(QTranslator& texts, const QString& folder) {
-    return texts.load(QStringLiteral("tessadocres.qm"), folder, QString(), QString());
+    return texts.load(QStringLiteral("tessadocres"), folder, QStringLiteral(""),
+                      QStringLiteral(".qm"));
 }
 
 QString CutToBytes(const QString& text) {

@@ -2,15 +2,16 @@
 #pragma once
 
 #include <QString>
+#include <concepts>
 
 #include "services/language.h"
 
 namespace docbench {
 
-// A text that takes `Values` values; formatting it with another number does not compile.
+// A text that takes `Values` values.
 template <int Values>
 struct TextId {
-    int number = 0;
+    int number = 0;  // into gStrings
 };
 
 namespace Text {
@@ -19,14 +20,26 @@ namespace Text {
 #undef TEXT
 }  // namespace Text
 
+// The text as it was loaded. One that takes values can't be shown without them.
 inline const QString& Tr(TextId<0> text) {
     return gStrings[size_t(text.number)];
 }
 
+inline const QString& ValueText(const QString& value) {
+    return value;
+}
+
+template <std::integral Number>
+QString ValueText(Number value) {
+    return QString::number(value);
+}
+
+// The text with its values, which are texts or whole numbers. A number of values that the text does
+// not take does not compile; a text of the language file that takes another number is told in a
+// box.
 template <int Values, typename... Value>
-QString Format(TextId<Values> text, const Value&... values) {
-    static_assert(sizeof...(values) == Values, "the text takes another number of values");
-    return sprintf(gStrings[size_t(text.number)], {values...});
+requires(sizeof...(Value) == Values) QString Format(TextId<Values> text, const Value&... values) {
+    return sprintf(gStrings[size_t(text.number)], {ValueText(values)...});
 }
 
 }  // namespace docbench

@@ -290,7 +290,7 @@
     </message>
     <message id="tessadocres-62">
         <source></source>
-        <extracomment>CopyCancelled. Status after Cancel or a failure at the source document. Files copied so far stay.</extracomment>
+        <extracomment>CopyCancelled. Status after Cancel at a question. Files copied so far stay.</extracomment>
         <translation>The copy was cancelled.</translation>
     </message>
     <message id="tessadocres-63">
@@ -1066,7 +1066,7 @@
     <message id="tessadocres-225">
         <source></source>
         <extracomment>HolderIsReplacement. Box of a replacement. Values: document, new reference.</extracomment>
-        <translation>The document %s has the same file name as its new reference %s. It was taken off the list; apply again to go on without it.</translation>
+        <translation>The document %s has the same file name as its new reference %s. Its tick was taken away; apply again to go on without it.</translation>
     </message>
     <message id="tessadocres-227">
         <source></source>
@@ -1106,7 +1106,7 @@
     <message id="tessadocres-235">
         <source></source>
         <extracomment>ExportedUnticked. In an export: the row is not ticked.</extracomment>
-        <translation>no</translation>
+        <translation>No</translation>
     </message>
     <message id="tessadocres-236">
         <source></source>

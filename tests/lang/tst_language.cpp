@@ -1,14 +1,19 @@
+#include "services/language.h"
+
 #include <QDir>
 #include <QFile>
+#include <QFont>
 #include <QProcess>
-#include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QXmlStreamReader>
+#include <QTranslator>
+#include <cstdio>
 
-#include "services/language.h"
+#include "services/docaccess.h"
+#include "services/localefont.h"
 #include "services/seams.h"
 #include "services/texts.h"
+#include "tests/lang/languagefile.h"
 #include "tests/support/testdialogs.h"
 #include "tests/support/testenvironment.h"
 
@@ -16,32 +21,33 @@ using namespace docbench;
 
 namespace {
 
-struct Role {
-    int number;
-    const char* name;
-    int values;
-};
+constexpr char kPrintFont[] = "--print-font";
 
-const Role kRoles[] = {
-#define TEXT(number, role, values) {number, #role, values},
-#include "lang/texts.def"
-#undef TEXT
-};
+QString Program() {
+    return QCoreApplication::applicationDirPath();
+}
 
 class FakeLanguage : public LanguageSettings {
 public:
-    explicit FakeLanguage(QString folder) : folder_(std::move(folder)) {}
-    QString GetLanguageFolder() override { return folder_; }
+    FakeLanguage(QString folder, QString error)
+        : folder_(std::move(folder)), error_(std::move(error)) {}
+    QString GetLanguageFolder() override {
+        if (!error_.isEmpty())
+            throw DocumentError(error_);
+        return folder_;
+    }
     void ApplyLocaleFont(QFont&) override {}
 
 private:
     QString folder_;
+    QString error_;
 };
 
-// A document library that knows the user's language alone.
+// A document library that knows the user's language alone, in a process that has loaded no texts.
 class FakeAccess : public DocumentAccess {
 public:
-    explicit FakeAccess(QString folder) : folder_(std::move(folder)) {
+    explicit FakeAccess(QString folder, QString error = {})
+        : folder_(std::move(folder)), error_(std::move(error)) {
         UnloadResources();
         gSeams.documents = this;
     }
@@ -55,43 +61,54 @@ public:
     std::unique_ptr<PreviewExtractor> MakePreviewExtractor() override { return nullptr; }
     std::unique_ptr<LanguageSettings> MakeLanguageSettings() override {
         ++made;
-        return std::make_unique<FakeLanguage>(folder_);
+        return std::make_unique<FakeLanguage>(folder_, error_);
     }
 
     int made = 0;
 
 private:
     QString folder_;
+    QString error_;
 };
 
-QSet<int> NotLoaded() {
-    QSet<int> numbers{24, 50, 54, 56, 67, 71, 102, 112, 212, 215, 217, 224, 226, 228, 325, 330};
-    for (int i = 384; i <= 393; ++i)
-        numbers.insert(i);
-    for (int i = 395; i <= 399; ++i)
-        numbers.insert(i);
-    return numbers;
-}
+// A program folder of the test's own.
+class ProgramFolder {
+public:
+    QString Path() const { return folder_.path(); }
 
-// The texts of a language file by number, as its translators wrote them.
-QMap<int, QString> TextsOf(const QString& file) {
-    QMap<int, QString> texts;
-    QFile source(file);
-    if (!source.open(QFile::ReadOnly))
-        return texts;
-    QXmlStreamReader xml(&source);
-    int number = 0;
-    while (!xml.atEnd()) {
-        xml.readNext();
-        if (!xml.isStartElement())
-            continue;
-        if (xml.name() == QLatin1String("message"))
-            number =
-                xml.attributes().value(QLatin1String("id")).toString().section(u'-', 1).toInt();
-        if (xml.name() == QLatin1String("translation"))
-            texts.insert(number, xml.readElementText());
+    // Puts compiled texts, the title of which is `title`, below the folder ("" for beside it).
+    void AddTexts(const QString& folder, const QString& title) const {
+        Write(
+            folder, QStringLiteral("tessadocres.ts"),
+            QStringLiteral("<?xml version=\"1.0\" encoding=\"utf-8\"?><TS version=\"2.1\"><context>"
+                           "<name></name><message id=\"tessadocres-122\"><source></source>"
+                           "<translation>%1</translation></message></context></TS>")
+                .arg(title)
+                .toUtf8());
+        const QDir place(folder_.path() + folder);
+        QCOMPARE(QProcess::execute(
+                     QStringLiteral(DOCBENCH_LRELEASE),
+                     {QStringLiteral("-silent"), QStringLiteral("-idbased"),
+                      place.filePath(QStringLiteral("tessadocres.ts")), QStringLiteral("-qm"),
+                      place.filePath(QStringLiteral("tessadocres.qm"))}),
+                 0);
     }
-    return texts;
+
+    void Write(const QString& folder, const QString& name, const QByteArray& bytes) const {
+        const QDir place(folder_.path() + folder);
+        QVERIFY(place.mkpath(QStringLiteral(".")));
+        QFile file(place.filePath(name));
+        QVERIFY(file.open(QFile::WriteOnly));
+        QCOMPARE(file.write(bytes), bytes.size());
+    }
+
+private:
+    QTemporaryDir folder_;
+};
+
+QString Mismatch(const QString& format) {
+    return QStringLiteral("Error in sprintf: Format mismatch, please report as a bug. Format = ") +
+           format;
 }
 
 }  // namespace
@@ -100,135 +117,37 @@ class TestLanguage : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyNumberHasItsRoleAndNoOtherHasOne();
-    void everyRoleHasANameOfItsOwn();
-    void aLanguageFileHasEveryTextAndNoOther_data() { Languages(); }
-    void aLanguageFileHasEveryTextAndNoOther();
-    void everyTextTakesAsManyValuesAsItsRole_data() { Languages(); }
-    void everyTextTakesAsManyValuesAsItsRole();
-    void noTextIsLongerThanItsBuffer_data() { Languages(); }
-    void noTextIsLongerThanItsBuffer();
-    void textsThatTellStatesApartDiffer_data() { Languages(); }
-    void textsThatTellStatesApartDiffer();
-    void textsThatAreDataKeepTheirForm_data() { Languages(); }
-    void textsThatAreDataKeepTheirForm();
-    void fileFiltersArePairsOfLabelAndPatterns_data() { Languages(); }
-    void fileFiltersArePairsOfLabelAndPatterns();
-
     void beforeTheLoadEveryTextIsEmpty();
-    void loadingReadsEveryText();
+    void everyCompiledLanguageHasItsTextsAndNoOther_data();
+    void everyCompiledLanguageHasItsTextsAndNoOther();
     void theNamedTextsAreTheNumberedOnes();
-    void aSecondLoadReadsNothing();
-    void aMissingLanguageFolderFallsBackToEnglishButKeepsItsHelpFile();
+    void theNextControlLoadsNothing();
+    void theUsersLanguageComesBeforeEnglish();
+    void englishComesBeforeTheTextsBesideTheProgram();
     void theTextsBesideTheProgramAreTheLastResort();
-    void withoutAnyTextsABoxSaysSo();
+    void aMissingLanguageFolderGivesEnglishButKeepsItsHelpFile();
+    void aDamagedLanguageFileGivesEnglish();
+    void noOtherFileIsTakenForTheTexts();
+    void withoutTextsABoxSaysSoAndTheProgramGoesOn();
     void withoutTheDocumentLibraryABoxSaysWhy();
-    void tooLongTextsAreCutAtAWholeCharacter();
+    void anErrorOfTheDocumentLibraryIsQuoted();
+    void afterAFailureNothingIsTriedAgain();
+    void aTooLongTextIsCutAtAWholeCharacter();
+    void unloadingForgetsEverything();
 
-    void valuesTakeThePlaceOfThePlaceholders();
-    void aFormatWithoutValuesShowsTheBoxAndGivesNothing();
+    void valuesTakeThePlaceOfThePlaceholdersInOrder();
+    void aValueIsNeverReadAsAFormat();
+    void onlyPercentSIsAPlaceholder();
+    void aPlaceholderWithoutValueShowsTheBoxAndStaysEmpty();
     void aValueWithoutPlaceholderShowsTheBoxAndIsLost();
-    void tooFewValuesShowTheBoxAndTheRestIsAppended();
-    void aRoleIsFormattedWithItsValues();
+    void textBehindMissingValuesIsKept();
+    void aTextTakesItsValuesByRole();
+    void aWrongTranslationShowsTheBoxAndStillReads();
 
-private:
-    static void Languages();
+    void fourLocalesHaveAFontOfTheirOwn_data();
+    void fourLocalesHaveAFontOfTheirOwn();
+    void theUsersLocaleDecidesOnTheFont();
 };
-
-void TestLanguage::Languages() {
-    QTest::addColumn<QString>("file");
-    const QDir lang(QStringLiteral(DOCBENCH_SOURCE_DIR "/lang"));
-    for (const QString& language : lang.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
-        QTest::newRow(qPrintable(language))
-            << lang.filePath(language + QStringLiteral("/tessadocres.ts"));
-}
-
-void TestLanguage::everyNumberHasItsRoleAndNoOtherHasOne() {
-    QSet<int> expected;
-    for (int i = 1; i <= kLastText; ++i)
-        expected.insert(i);
-    expected -= NotLoaded();
-    QCOMPARE(expected.size(), 370);
-    QSet<int> found;
-    for (const Role& role : kRoles)
-        found.insert(role.number);
-    QCOMPARE(found, expected);
-    QCOMPARE(std::size(kRoles), 370u);
-}
-
-void TestLanguage::everyRoleHasANameOfItsOwn() {
-    QSet<QString> names;
-    for (const Role& role : kRoles)
-        names.insert(QLatin1String(role.name));
-    QCOMPARE(names.size(), qsizetype(std::size(kRoles)));
-}
-
-void TestLanguage::aLanguageFileHasEveryTextAndNoOther() {
-    QFETCH(QString, file);
-    const QMap<int, QString> texts = TextsOf(file);
-    QCOMPARE(texts.size(), 370);
-    for (const Role& role : kRoles)
-        QVERIFY2(!texts.value(role.number).isEmpty(), role.name);
-}
-
-void TestLanguage::everyTextTakesAsManyValuesAsItsRole() {
-    QFETCH(QString, file);
-    const QMap<int, QString> texts = TextsOf(file);
-    for (const Role& role : kRoles) {
-        const QString text = texts.value(role.number);
-        QVERIFY2(text.count(QLatin1String("%s")) == role.values, role.name);
-        QVERIFY2(text.count(u'%') == role.values, role.name);
-    }
-}
-
-void TestLanguage::noTextIsLongerThanItsBuffer() {
-    QFETCH(QString, file);
-    const QMap<int, QString> texts = TextsOf(file);
-    for (const Role& role : kRoles)
-        QVERIFY2(texts.value(role.number).toUtf8().size() <= kLongestText, role.name);
-}
-
-// The program reads captions back to know what state a button or a rule is in.
-void TestLanguage::textsThatTellStatesApartDiffer() {
-    QFETCH(QString, file);
-    const QMap<int, QString> texts = TextsOf(file);
-    const std::pair<int, int> pairs[] = {{53, 17}, {53, 270}, {163, 337}, {4, 49},
-                                         {5, 19},  {17, 270}, {339, 340}};
-    for (const auto& [one, other] : pairs)
-        QVERIFY2(texts[one] != texts[other], qPrintable(QString::number(one)));
-    QSet<QString> types;
-    for (int i = 164; i <= 167; ++i)
-        types.insert(texts[i]);
-    QCOMPARE(types.size(), 4);
-    QSet<QString> operators;
-    for (int i = 296; i <= 301; ++i)
-        operators.insert(texts[i]);
-    QCOMPARE(operators.size(), 6);
-}
-
-void TestLanguage::textsThatAreDataKeepTheirForm() {
-    QFETCH(QString, file);
-    const QMap<int, QString> texts = TextsOf(file);
-    QVERIFY(texts[78].startsWith(u' ') && texts[78].endsWith(u' ') && texts[78].size() > 2);
-    QVERIFY(!texts[92].isEmpty());
-    for (int i = 147; i <= 149; ++i) {
-        for (const QChar separator : {u'/', u'\\', u':'})
-            QVERIFY(!texts[i].contains(separator));
-    }
-    for (const int heading : {126, 127, 128, 129, 130, 131, 132, 133, 315, 316, 317})
-        QVERIFY(!texts[heading].contains(u'&'));  // shown as a heading, where no key is marked
-}
-
-void TestLanguage::fileFiltersArePairsOfLabelAndPatterns() {
-    QFETCH(QString, file);
-    const QMap<int, QString> texts = TextsOf(file);
-    for (const int filter : {35, 36, 39, 145, 287}) {
-        const QStringList parts = texts[filter].split(u'|');
-        QCOMPARE(parts.size() % 2, 0);
-        for (qsizetype i = 1; i < parts.size(); i += 2)
-            QVERIFY2(parts[i].startsWith(QLatin1String("*.")), qPrintable(parts[i]));
-    }
-}
 
 void TestLanguage::beforeTheLoadEveryTextIsEmpty() {
     UnloadResources();
@@ -236,19 +155,32 @@ void TestLanguage::beforeTheLoadEveryTextIsEmpty() {
         QCOMPARE(text, QString());
     QVERIFY(!gResourcesLoaded);
     QCOMPARE(gAppTitle, QString());
+    QCOMPARE(Tr(Text::NoPreview), QString());
 }
 
-void TestLanguage::loadingReadsEveryText() {
+void TestLanguage::everyCompiledLanguageHasItsTextsAndNoOther_data() {
+    QTest::addColumn<QString>("language");
+    for (const QString& language : LanguageNames())
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+void TestLanguage::everyCompiledLanguageHasItsTextsAndNoOther() {
+    QFETCH(QString, language);
+    const QString folder = QStringLiteral("/lang/") + language;
     const TestDialogs dialogs;
-    const FakeAccess access(QStringLiteral("/lang/english"));
+    const FakeAccess access(folder);
     LoadResources();
     QVERIFY(gResourcesLoaded);
-    const QMap<int, QString> texts =
-        TextsOf(QStringLiteral(DOCBENCH_SOURCE_DIR "/lang/english/tessadocres.ts"));
+    const QMap<int, QString> texts = ReadLanguageFile(LanguageFileOf(language)).texts;
     for (int i = 0; i <= kLastText; ++i)
         QCOMPARE(gStrings[size_t(i)], texts.value(i));
-    QCOMPARE(gHelpFile, QCoreApplication::applicationDirPath() +
-                            QStringLiteral("/lang/english/TFDocbench.chm"));
+
+    QTranslator compiled;
+    QVERIFY(compiled.load(Program() + folder + QStringLiteral("/tessadocres.qm")));
+    for (int i = 0; i <= 2 * kLastText; ++i) {
+        const QByteArray id = "tessadocres-" + QByteArray::number(i);
+        QCOMPARE(compiled.translate(nullptr, id.constData()), texts.value(i));
+    }
 }
 
 void TestLanguage::theNamedTextsAreTheNumberedOnes() {
@@ -262,49 +194,93 @@ void TestLanguage::theNamedTextsAreTheNumberedOnes() {
     QCOMPARE(gRelationDefault, gStrings[147]);
     QCOMPARE(gRelationAssembly, gStrings[148]);
     QCOMPARE(gRelationPart, gStrings[149]);
+    QVERIFY(!gAppTitle.isEmpty());
 }
 
-void TestLanguage::aSecondLoadReadsNothing() {
+void TestLanguage::theNextControlLoadsNothing() {
     const TestDialogs dialogs;
     const FakeAccess access(QStringLiteral("/lang/english"));
     LoadResources();
     gStrings[1] = QStringLiteral("changed");
+    gHelpFile = QStringLiteral("elsewhere");
     LoadResources();
     QCOMPARE(access.made, 1);
     QCOMPARE(gStrings[1], QStringLiteral("changed"));
+    QCOMPARE(gHelpFile, QStringLiteral("elsewhere"));
 }
 
-void TestLanguage::aMissingLanguageFolderFallsBackToEnglishButKeepsItsHelpFile() {
+void TestLanguage::theUsersLanguageComesBeforeEnglish() {
     const TestDialogs dialogs;
-    const FakeAccess access(QStringLiteral("/lang/klingon"));
-    LoadResources();
-    QCOMPARE(gAppTitle, QStringLiteral("Tessaforma Docbench"));
-    QCOMPARE(gHelpFile, QCoreApplication::applicationDirPath() +
-                            QStringLiteral("/lang/klingon/TFDocbench.chm"));
+    const FakeAccess access(QStringLiteral("/lang/german"));
+    const ProgramFolder program;
+    program.AddTexts(QStringLiteral("/lang/german"), QStringLiteral("Deutsch"));
+    program.AddTexts(QStringLiteral("/lang/english"), QStringLiteral("English"));
+    program.AddTexts(QString(), QStringLiteral("Beside"));
+    LoadResources(program.Path());
+    QCOMPARE(gAppTitle, QStringLiteral("Deutsch"));
+    QCOMPARE(gHelpFile, program.Path() + QStringLiteral("/lang/german/TFDocbench.chm"));
+}
+
+void TestLanguage::englishComesBeforeTheTextsBesideTheProgram() {
+    const TestDialogs dialogs;
+    const FakeAccess access(QStringLiteral("/lang/german"));
+    const ProgramFolder program;
+    program.AddTexts(QStringLiteral("/lang/english"), QStringLiteral("English"));
+    program.AddTexts(QString(), QStringLiteral("Beside"));
+    LoadResources(program.Path());
+    QCOMPARE(gAppTitle, QStringLiteral("English"));
 }
 
 void TestLanguage::theTextsBesideTheProgramAreTheLastResort() {
     const TestDialogs dialogs;
-    const FakeAccess access{QString()};
-    const QTemporaryDir program;
-    QVERIFY(QFile::copy(
-        QCoreApplication::applicationDirPath() + QStringLiteral("/lang/english/tessadocres.qm"),
-        program.filePath(QStringLiteral("tessadocres.qm"))));
-    LoadResources(program.path());
-    QCOMPARE(gAppTitle, QStringLiteral("Tessaforma Docbench"));
-    QCOMPARE(gHelpFile, program.path() + QStringLiteral("/TFDocbench.chm"));
+    const FakeAccess access(QStringLiteral("/lang/german"));
+    const ProgramFolder program;
+    program.AddTexts(QString(), QStringLiteral("Beside"));
+    LoadResources(program.Path());
+    QCOMPARE(gAppTitle, QStringLiteral("Beside"));
 }
 
-void TestLanguage::withoutAnyTextsABoxSaysSo() {
+void TestLanguage::aMissingLanguageFolderGivesEnglishButKeepsItsHelpFile() {
+    const TestDialogs dialogs;
+    const FakeAccess access(QStringLiteral("/lang/nowhere"));
+    LoadResources();
+    QCOMPARE(gAppTitle, QStringLiteral("Tessaforma Docbench"));
+    QCOMPARE(gHelpFile, Program() + QStringLiteral("/lang/nowhere/TFDocbench.chm"));
+}
+
+void TestLanguage::aDamagedLanguageFileGivesEnglish() {
+    const TestDialogs dialogs;
+    const FakeAccess access(QStringLiteral("/lang/german"));
+    const ProgramFolder program;
+    program.Write(QStringLiteral("/lang/german"), QStringLiteral("tessadocres.qm"), "no texts");
+    program.AddTexts(QStringLiteral("/lang/english"), QStringLiteral("English"));
+    LoadResources(program.Path());
+    QCOMPARE(gAppTitle, QStringLiteral("English"));
+}
+
+void TestLanguage::noOtherFileIsTakenForTheTexts() {
+    TestDialogs dialogs;
+    const FakeAccess access{QString()};
+    const ProgramFolder program;
+    program.AddTexts(QString(), QStringLiteral("Beside"));
+    QVERIFY(QFile::rename(program.Path() + QStringLiteral("/tessadocres.qm"),
+                          program.Path() + QStringLiteral("/tessadocres.qm.qm")));
+    dialogs.Expect(QStringLiteral("Failed to load resources.  *"));
+    LoadResources(program.Path());
+    QCOMPARE(gAppTitle, QString());
+}
+
+void TestLanguage::withoutTextsABoxSaysSoAndTheProgramGoesOn() {
     TestDialogs dialogs;
     const FakeAccess access(QStringLiteral("/lang/english"));
-    const QTemporaryDir program;
+    const ProgramFolder program;
     dialogs.Expect(QStringLiteral("Failed to load resources.  Please check the installation."));
-    LoadResources(program.path());
+    LoadResources(program.Path());
     QCOMPARE(dialogs.LastTitle(), QString());
-    QCOMPARE(gStrings[122], QString());
+    for (const QString& text : gStrings)
+        QCOMPARE(text, QString());
     QVERIFY(gResourcesLoaded);
-    QCOMPARE(gHelpFile, program.path() + QStringLiteral("/lang/english/TFDocbench.chm"));
+    QCOMPARE(gHelpFile, program.Path() + QStringLiteral("/lang/english/TFDocbench.chm"));
 }
 
 void TestLanguage::withoutTheDocumentLibraryABoxSaysWhy() {
@@ -312,72 +288,159 @@ void TestLanguage::withoutTheDocumentLibraryABoxSaysWhy() {
     UnloadResources();
     dialogs.Expect(QStringLiteral("Failed to load resources, Error: *"));
     LoadResources();
-    QCOMPARE(gAppTitle, QString());
+    QCOMPARE(dialogs.LastTitle(), QString());
+    QCOMPARE(gStrings[122], QString());
     UnloadResources();
 }
 
-void TestLanguage::tooLongTextsAreCutAtAWholeCharacter() {
+void TestLanguage::anErrorOfTheDocumentLibraryIsQuoted() {
+    TestDialogs dialogs;
+    const FakeAccess access(QString(), QStringLiteral("The settings can't be read."));
+    dialogs.Expect(QStringLiteral("Failed to load resources, Error: The settings can't be read."));
+    LoadResources();
+    QCOMPARE(gStrings[122], QString());
+}
+
+void TestLanguage::afterAFailureNothingIsTriedAgain() {
+    TestDialogs dialogs;
+    const FakeAccess access(QString(), QStringLiteral("Broken."));
+    dialogs.Expect(QStringLiteral("Failed to load resources, Error: Broken."));
+    LoadResources();
+    LoadResources();
+    QCOMPARE(access.made, 1);
+}
+
+void TestLanguage::aTooLongTextIsCutAtAWholeCharacter() {
     const TestDialogs dialogs;
     const FakeAccess access{QString()};
-    const QTemporaryDir program;
-    QFile source(program.filePath(QStringLiteral("long.ts")));
-    QVERIFY(source.open(QFile::WriteOnly));
-    source.write(
-        "<?xml version=\"1.0\" encoding=\"utf-8\"?><TS version=\"2.1\"><context><name></name>"
-        "<message id=\"tessadocres-122\"><source></source><translation>");
-    source.write(QString(300, QChar(u'\u00e4')).toUtf8());  // two bytes each
-    source.write("</translation></message></context></TS>");
-    source.close();
-    QProcess compiler;
-    compiler.start(QStringLiteral(DOCBENCH_LRELEASE),
-                   {QStringLiteral("-idbased"), source.fileName(), QStringLiteral("-qm"),
-                    program.filePath(QStringLiteral("tessadocres.qm"))});
-    QVERIFY(compiler.waitForFinished());
-    QCOMPARE(compiler.exitCode(), 0);
-    LoadResources(program.path());
+    const ProgramFolder program;
+    program.AddTexts(QString(), QString(300, QChar(u'\u00e4')));  // two bytes each
+    LoadResources(program.Path());
     QCOMPARE(gAppTitle, QString(255, QChar(u'\u00e4')));
 }
 
-void TestLanguage::valuesTakeThePlaceOfThePlaceholders() {
+void TestLanguage::unloadingForgetsEverything() {
     const TestDialogs dialogs;
-    QCOMPARE(sprintf(QStringLiteral("a%sb"), {QStringLiteral("x")}), QStringLiteral("axb"));
-    QCOMPARE(sprintf(QStringLiteral("%s, %s"), {QStringLiteral("%s"), QStringLiteral("y")}),
-             QStringLiteral("%s, y"));
-    QCOMPARE(sprintf(QStringLiteral("100 %d"), {}), QStringLiteral("100 %d"));
+    const FakeAccess access(QStringLiteral("/lang/english"));
+    LoadResources();
+    UnloadResources();
+    QCOMPARE(gStrings[122], QString());
+    QCOMPARE(gAppTitle, QString());
+    QCOMPARE(gHelpFile, QString());
+    LoadResources();
+    QCOMPARE(access.made, 2);
+    QCOMPARE(gAppTitle, QStringLiteral("Tessaforma Docbench"));
 }
 
-void TestLanguage::aFormatWithoutValuesShowsTheBoxAndGivesNothing() {
+void TestLanguage::valuesTakeThePlaceOfThePlaceholdersInOrder() {
+    const TestDialogs dialogs;
+    QCOMPARE(sprintf(QStringLiteral("a%sb"), {QStringLiteral("x")}), QStringLiteral("axb"));
+    QCOMPARE(sprintf(QStringLiteral("%s%s"), {QStringLiteral("x"), QStringLiteral("y")}),
+             QStringLiteral("xy"));
+    QCOMPARE(sprintf(QString(), {}), QString());
+}
+
+void TestLanguage::aValueIsNeverReadAsAFormat() {
+    const TestDialogs dialogs;
+    QCOMPARE(sprintf(QStringLiteral("%s, %s"), {QStringLiteral("%s"), QStringLiteral("100 %")}),
+             QStringLiteral("%s, 100 %"));
+}
+
+void TestLanguage::onlyPercentSIsAPlaceholder() {
+    const TestDialogs dialogs;
+    QCOMPARE(sprintf(QStringLiteral("%d %5s %S %%"), {}), QStringLiteral("%d %5s %S %%"));
+}
+
+void TestLanguage::aPlaceholderWithoutValueShowsTheBoxAndStaysEmpty() {
     TestDialogs dialogs;
-    dialogs.Expect(QStringLiteral("Error in sprintf: Format mismatch, please report as a bug. "
-                                  "Format = %s"),
-                   Dialogs::Icon::None);
+    dialogs.Expect(Mismatch(QStringLiteral("%s")), Dialogs::Icon::None);
     QCOMPARE(sprintf(QStringLiteral("%s"), {}), QString());
+    QVERIFY(dialogs.AllCame());
     QCOMPARE(dialogs.LastTitle(), QString());
 }
 
 void TestLanguage::aValueWithoutPlaceholderShowsTheBoxAndIsLost() {
     TestDialogs dialogs;
-    dialogs.Expect(QStringLiteral("Error in sprintf: Format mismatch, please report as a bug. "
-                                  "Format = plain"),
-                   Dialogs::Icon::None);
+    dialogs.Expect(Mismatch(QStringLiteral("plain")), Dialogs::Icon::None);
     QCOMPARE(sprintf(QStringLiteral("plain"), {QStringLiteral("x")}), QStringLiteral("plain"));
+    QVERIFY(dialogs.AllCame());
 }
 
-void TestLanguage::tooFewValuesShowTheBoxAndTheRestIsAppended() {
+void TestLanguage::textBehindMissingValuesIsKept() {
     TestDialogs dialogs;
-    dialogs.Expect(QStringLiteral("Error in sprintf*"), Dialogs::Icon::None);
+    dialogs.Expect(Mismatch(QStringLiteral("a%sb%sc")), Dialogs::Icon::None);
     QCOMPARE(sprintf(QStringLiteral("a%sb%sc"), {QStringLiteral("x")}), QStringLiteral("axbc"));
 }
 
-void TestLanguage::aRoleIsFormattedWithItsValues() {
+void TestLanguage::aTextTakesItsValuesByRole() {
     const TestDialogs dialogs;
     const FakeAccess access(QStringLiteral("/lang/english"));
     LoadResources();
-    const QString text =
-        Format(Text::WalkError, QStringLiteral("/a.tfmprt"), QStringLiteral("It is broken."));
-    QVERIFY(text.contains(QLatin1String("/a.tfmprt")));
-    QVERIFY(text.contains(QLatin1String("It is broken.")));
+    gStrings[size_t(Text::WalkError.number)] = QStringLiteral("<%s|%s>");
+    QCOMPARE(Format(Text::WalkError, QStringLiteral("a.tfmprt"), QStringLiteral("Broken.")),
+             QStringLiteral("<a.tfmprt|Broken.>"));
+    QCOMPARE(Format(Text::WalkError, 12, qsizetype(-3)), QStringLiteral("<12|-3>"));
+    QCOMPARE(Tr(Text::AppTitle), gStrings[122]);
 }
 
-DOCBENCH_TEST_MAIN(QCoreApplication, TestLanguage)
+void TestLanguage::aWrongTranslationShowsTheBoxAndStillReads() {
+    TestDialogs dialogs;
+    const FakeAccess access(QStringLiteral("/lang/english"));
+    LoadResources();
+    gStrings[size_t(Text::NodeMissing.number)] = QStringLiteral("It is missing.");
+    dialogs.Expect(Mismatch(QStringLiteral("It is missing.")), Dialogs::Icon::None);
+    QCOMPARE(Format(Text::NodeMissing, QStringLiteral("a")), QStringLiteral("It is missing."));
+}
+
+void TestLanguage::fourLocalesHaveAFontOfTheirOwn_data() {
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("face");  // empty: the font stays
+    QTest::newRow("Taiwan") << "zh_TW" << QStringLiteral(u"新細明體");
+    QTest::newRow("Japan") << "ja_JP" << QStringLiteral(u"ＭＳ Ｐゴシック");
+    QTest::newRow("Korea") << "ko_KR" << QStringLiteral(u"굴림");
+    QTest::newRow("China") << "zh_CN" << QStringLiteral(u"宋体");
+    QTest::newRow("Hong Kong") << "zh_HK" << QString();
+    QTest::newRow("Germany") << "de_DE" << QString();
+    QTest::newRow("United States") << "en_US" << QString();
+    QTest::newRow("none") << "C" << QString();
+}
+
+void TestLanguage::fourLocalesHaveAFontOfTheirOwn() {
+    QFETCH(QString, locale);
+    QFETCH(QString, face);
+    const QFont before(QStringLiteral("Some Face"), 17);
+    QFont font = before;
+    ApplyFontOfLocale(font, QLocale(locale));
+    QCOMPARE(font, face.isEmpty() ? before : QFont(face, 9));
+}
+
+// The user's locale is fixed for a process, so another one is asked.
+void TestLanguage::theUsersLocaleDecidesOnTheFont() {
+    const auto fontIn = [](const QString& locale) {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("LC_ALL"), locale + QStringLiteral(".UTF-8"));
+        process.setProcessEnvironment(environment);
+        process.start(QCoreApplication::applicationFilePath(), {QLatin1String(kPrintFont)});
+        process.waitForFinished();
+        return QString::fromUtf8(process.readAllStandardOutput());
+    };
+    QCOMPARE(fontIn(QStringLiteral("ja_JP")), QStringLiteral(u"ＭＳ Ｐゴシック 9"));
+    QCOMPARE(fontIn(QStringLiteral("zh_TW")), QStringLiteral(u"新細明體 9"));
+    QCOMPARE(fontIn(QStringLiteral("de_DE")), QStringLiteral("Some Face 17"));
+}
+
+int main(int argc, char* argv[]) {
+    if (argc == 2 && qstrcmp(argv[1], kPrintFont) == 0) {
+        QFont font(QStringLiteral("Some Face"), 17);
+        ApplyLanguageFont(font);
+        const QString line = font.family() + u' ' + QString::number(font.pointSize());
+        return std::fputs(line.toUtf8().constData(), stdout) < 0 ? 1 : 0;
+    }
+    const TestEnvironment environment;
+    const QCoreApplication application(argc, argv);
+    TestLanguage test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_language.moc"

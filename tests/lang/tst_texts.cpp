@@ -43,7 +43,9 @@ const QList<int> kRuleProperties =
     QList<int>{347, 161, 159, 157, 158, 160, 302, 303, 304, 179, 44} + Range(181, 204);
 
 template <typename Id, typename... Value>
-concept Formats = requires(Id text, Value... values) { Format(text, values...); };
+concept Formats = requires(Id text, Value... values) {
+    Format(text, values...);
+};
 
 }  // namespace
 
@@ -263,8 +265,7 @@ void TestTexts::relationsAreNoPaths() {
 }
 
 void TestTexts::aSavedSearchCanHoldEveryRule() {
-    for (const QString& text :
-         File().Of(kRuleProperties + kOperators + Numbers(Text::RuleOr)))
+    for (const QString& text : File().Of(kRuleProperties + kOperators + Numbers(Text::RuleOr)))
         QVERIFY2(!text.isEmpty() && !text.contains(u'"'), qPrintable(text));
 }
 
