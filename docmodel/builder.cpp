@@ -27,6 +27,7 @@ struct DocumentBuilder::Data {
     }
     StoredPath TargetFor(const QString& target) const;
     int ConfigurationAt(const QString& name);
+    int NeedConfiguration(const QString& name);
     void ChangeConfiguration(int index, const QList<CustomProperty>& properties);
 };
 
@@ -75,6 +76,15 @@ int DocumentBuilder::Data::ConfigurationAt(const QString& name) {
         if (SameName(rows[index].name, name))
             return index;
     return -1;
+}
+
+// The same; raises if there is none.
+int DocumentBuilder::Data::NeedConfiguration(const QString& name) {
+    const int index = ConfigurationAt(name);
+    if (index < 0)
+        throw FailedError(path, QStringLiteral("changed"),
+                          QStringLiteral("it has no configuration \"%1\"").arg(name));
+    return index;
 }
 
 void DocumentBuilder::Data::ChangeConfiguration(int index,
@@ -189,16 +199,23 @@ int DocumentBuilder::AddConfiguration(const QString& name, int type,
 
 bool DocumentBuilder::SetConfigurationProperty(const QString& configuration, const QString& name,
                                                const QVariant& value) {
-    const int index = data_->ConfigurationAt(configuration);
-    if (index < 0)
-        throw FailedError(data_->path, QStringLiteral("changed"),
-                          QStringLiteral("it has no configuration \"%1\"").arg(configuration));
+    const int index = data_->NeedConfiguration(configuration);
     DocumentPart& tables = data_->Content().Tables();
     PropertySet set(tables.ConfigurationProperties(index));
     if (!set.Set(name, value))
         return false;
     tables.ChangeConfiguration(index, set);
     return true;
+}
+
+bool DocumentBuilder::DeleteConfigurationProperty(const QString& configuration,
+                                                  const QString& name) {
+    const int index = data_->NeedConfiguration(configuration);
+    DocumentPart& tables = data_->Content().Tables();
+    PropertySet set(tables.ConfigurationProperties(index));
+    const bool isThere = set.Delete(name);
+    tables.ChangeConfiguration(index, set);
+    return isThere;
 }
 
 int DocumentBuilder::AddHyperlink(const QString& text) {

@@ -62,9 +62,11 @@ public:
     int AddConfiguration(const QString& name, int type = kOrdinaryConfiguration,
                          const QList<CustomProperty>& properties = {});
     int AddHyperlink(const QString& text);
-    // The property of an existing configuration; raises when there is none of that name.
+    // The properties of an existing configuration; raise when there is none of that name.
     bool SetConfigurationProperty(const QString& configuration, const QString& name,
                                   const QVariant& value);
+    // False when it has no such property.
+    bool DeleteConfigurationProperty(const QString& configuration, const QString& name);
 
     void SetReferencesLocked(bool locked);
     // Writes the lock record: who reserved the document. An empty user takes the lock off.

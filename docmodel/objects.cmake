@@ -28,3 +28,15 @@ target_sources(docmodel_core PRIVATE
 add_library(docmodel MODULE plugin.cpp)
 set_target_properties(docmodel PROPERTIES PREFIX "")
 target_link_libraries(docmodel PRIVATE docmodel_core)
+
+add_executable(docmodel_tool
+    tool/addcommands.cpp
+    tool/command.cpp
+    tool/main.cpp
+    tool/makelibrary.cpp
+    tool/newcommand.cpp
+    tool/packagecommands.cpp
+    tool/setproperty.cpp
+    tool/show.cpp)
+set_target_properties(docmodel_tool PROPERTIES OUTPUT_NAME docmodel)
+target_link_libraries(docmodel_tool PRIVATE docmodel_core)
