@@ -51,9 +51,9 @@ int CellTree::NodeOf(const QModelIndex& index) const {
 }
 
 QModelIndex CellTree::index(int row, int column, const QModelIndex& parent) const {
-    if (!hasIndex(row, column, parent))
+    if (column != 0 || row < 0 || row >= rowCount(parent))
         return {};
-    return createIndex(row, column, quintptr(nodes_.At(NodeOf(parent)).children[size_t(row)]));
+    return createIndex(row, 0, quintptr(nodes_.At(NodeOf(parent)).children[size_t(row)]));
 }
 
 QModelIndex CellTree::parent(const QModelIndex& index) const {
@@ -62,6 +62,10 @@ QModelIndex CellTree::parent(const QModelIndex& index) const {
 
 int CellTree::rowCount(const QModelIndex& parent) const {
     return parent.column() > 0 ? 0 : int(nodes_.At(NodeOf(parent)).children.size());
+}
+
+bool CellTree::hasChildren(const QModelIndex& parent) const {
+    return rowCount(parent) > 0;
 }
 
 int CellTree::columnCount(const QModelIndex&) const {

@@ -25,7 +25,7 @@ set_target_properties(docbench_core PROPERTIES
 target_include_directories(docbench_core PUBLIC ${PROJECT_SOURCE_DIR})
 target_link_libraries(docbench_core
     PUBLIC docaccess Qt6::Core Qt6::Gui
-    PRIVATE "$<LINK_LIBRARY:WHOLE_ARCHIVE,docbench_settings>" Qt6::DBus)
+    PRIVATE "$<LINK_LIBRARY:WHOLE_ARCHIVE,docbench_settings>")
 target_precompile_headers(docbench_core PRIVATE <QtCore> <QtGui>)
 
 # The panes. The shared library shows hosts the classes marked DOCBENCH_EXPORT and nothing else; tests
