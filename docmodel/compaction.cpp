@@ -1,5 +1,7 @@
 #include "docmodel/compaction.h"
 
+#include <fcntl.h>
+
 #include <QtEndian>
 #include <algorithm>
 #include <cerrno>
@@ -115,20 +117,24 @@ private:
     std::unique_ptr<char[]> buffer_;
 };
 
-// Opens what was written as any reader would, and reads every part of it.
+// Reads what was written as any reader would, and every part of it.
 void CheckCopy(const Package::Data& from, const SiblingFile& copy) {
-    const Package read = Package::Open(QString::fromUtf8(copy.Path()));
-    read.CheckParts();
-    qsizetype parts = 0;
-    for (qsizetype i = 0; i < from.directory.Count(); ++i)
-        if (!ZipDirectory::IsFolder(from.directory.Name(from.directory.At(i))))
-            ++parts;
-    const QList<QByteArray> names = read.PartNames();
-    const bool sameNames = std::all_of(names.begin(), names.end(), [&](const QByteArray& name) {
-        return from.directory.Find(name) != nullptr;
-    });
-    if (names.size() != parts || !sameNames)
-        throw FailedError(from.path, Done(), QStringLiteral("the copy read back is another"));
+    Package::Data read;
+    read.path = from.path;  // what is wrong with the copy is wrong with the document
+    read.file = FileDescriptor(fcntl(copy.Get(), F_DUPFD_CLOEXEC, 0));
+    if (!read.file.IsOpen() || fstat(read.file.Get(), &read.status) != 0)
+        throw SystemError(from.path, Done(), errno);
+    read.ReadState();
+    bool same = read.directory.Count() == from.directory.Count();
+    for (qsizetype i = 0; i < read.directory.Count(); ++i) {
+        const DirectoryEntry& entry = read.directory.At(i);
+        read.Check(entry);
+        const DirectoryEntry* original = from.directory.Find(read.directory.Name(entry));
+        same = same && original && original->record.crc == entry.record.crc &&
+               original->record.size == entry.record.size;
+    }
+    if (!same)
+        throw FailedError(from.path, Done(), QStringLiteral("the copy, read back, is another"));
 }
 
 }  // namespace

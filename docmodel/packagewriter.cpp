@@ -182,7 +182,7 @@ void PackageWriter::Data::CompactIfWorth() {
         if (IsWorthCompacting(saved.DeadBytes(), saved.fileSize))
             CompactPackage(saved, realPath);
     } catch (const DocumentError& error) {
-        qCInfo(packageLog).noquote() << error.Description();
+        qCDebug(packageLog).noquote() << error.Description();
     }
 }
 
