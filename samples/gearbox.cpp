@@ -98,7 +98,7 @@ QList<Document> GearboxAssemblies() {
 QList<Document> GearboxDrawings() {
     return {
         {.path = "gearbox.tfmdrw",
-         .title = "Two-stage spur gearbox, general arrangement",
+         .title = "Gearbox, general arrangement",
          .picture = Picture::Gearbox,
          .components = {{kMainAssembly}},
          .hyperlinks = {"https://standards.example.net/sheets/iso-128.pdf"}},

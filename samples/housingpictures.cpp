@@ -42,7 +42,7 @@ QPainterPath CoverFrame(double margin) {
 }  // namespace
 
 QList<Bore> HousingBores() {
-    return {{{-105, 0}, 30}, {{-42, 0}, 34}, {{78, 0}, 44}};
+    return {{{-118, 0}, 24}, {{-37, 0}, 31}, {{84, 0}, 42}};
 }
 
 Drawing Housing(bool machined) {

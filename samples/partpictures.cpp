@@ -7,30 +7,29 @@
 
 namespace samples {
 
-Drawing HexScrew(double diameter, double length) {
+Drawing HexScrew(double diameter, double length, Material material) {
     const double head = diameter * 0.7;
-    const double across = diameter * 1.7;   // flats, seen from above
-    const double corner = across * 1.1547;  // what is seen from the side
     const double left = -(head + length) / 2;
     const double neck = left + head;
-    const double threadStart = neck + length * 0.22;
-    Drawing screw;
-    screw.Turned(Cylinder(neck, neck + length, diameter, diameter * 0.1), Material::Steel);
-    const double pitch = diameter * 0.16;
     const double radius = diameter / 2;
-    for (double at = threadStart; at < neck + length - diameter * 0.12; at += pitch)
-        screw.Edge(Line({at, -radius}, {at + pitch * 0.6, radius}));
-    // Three of the six flats show, each lit on its own.
+    Drawing screw;
+    screw.Turned(Cylinder(neck, neck + length, diameter, diameter * 0.1), material);
+    for (double at = neck + length * 0.22; at < neck + length - diameter * 0.12;
+         at += diameter * 0.16)
+        screw.Edge(Line({at, -radius}, {at + diameter * 0.1, radius}));
+    // Three of the six flats show, each lit on its own; the chamfer cuts them off in arcs.
+    const double corner = diameter * 1.7 * 1.1547;
+    const double chamfer = head * 0.2;
+    const QPainterPath whole = Cylinder(left, neck, corner, chamfer)
+                                   .united(Box({neck - chamfer, -corner / 2, chamfer, corner}));
     for (int flat = -1; flat <= 1; ++flat) {
-        const double height = flat == 0 ? corner / 2 : corner / 4;
-        const double middle = flat * corner * 3 / 8;
-        const QRectF box(left, middle - height / 2, head, height);
-        QPainterPath face(box.topRight());
-        face.lineTo(box.topLeft() + QPointF(head * 0.15, 0));
-        face.quadTo(QPointF(left - head * 0.1, middle), box.bottomLeft() + QPointF(head * 0.15, 0));
-        face.lineTo(box.bottomRight());
-        face.closeSubpath();
-        screw.Turned(face, flat == 1 ? Material::DarkSteel : Material::Steel);
+        const double half = corner * (flat == 0 ? 0.25 : 0.125);
+        const double middle = corner * 0.375 * flat;
+        const QPainterPath face = Box({left, middle - half, head, 2 * half});
+        screw.Turned(face.intersected(whole), flat == 1 ? Material::DarkSteel : material);
+        QPainterPath arc(QPointF(left + chamfer, middle - half));
+        arc.quadTo({left - chamfer * 0.6, middle}, {left + chamfer, middle + half});
+        screw.Edge(arc);
     }
     screw.Axis({left - 4, 0}, {-left + 4, 0});
     return screw;
@@ -48,7 +47,7 @@ Drawing HexHead(double diameter) {
 
 Drawing Washer(double diameter) {
     Drawing washer;
-    washer.Round(Ring({}, diameter * 1.05, diameter * 0.54), Material::Steel, {}, diameter * 0.25);
+    washer.Round(Ring({}, diameter * 1.05, diameter * 0.54), Material::Steel, {}, diameter * 0.16);
     washer.Edge(Circle({}, diameter));
     washer.Axis({-diameter * 1.3, 0}, {diameter * 1.3, 0});
     return washer;
@@ -211,7 +210,7 @@ Drawing ShaftSeal(double outer, double bore) {
     const double radius = outer / 2;
     const double lip = bore / 2;
     Drawing seal;
-    seal.Solid(Ring({}, radius, lip), Material::Rubber, outer * 0.16);
+    seal.Solid(Ring({}, radius, lip), Material::Rubber, outer * 0.1);
     seal.Round(Ring({}, radius, radius * 0.9), Material::Rubber, {}, 0);
     const double spring = lip + (radius - lip) * 0.38;
     seal.Round(Ring({}, spring, spring - (radius - lip) * 0.16), Material::Steel, {}, 0);

@@ -13,7 +13,7 @@ struct ShaftStep {
 };
 
 // From the side, the head on the left.
-Drawing HexScrew(double diameter, double length);
+Drawing HexScrew(double diameter, double length, Material material = Material::Steel);
 Drawing HexHead(double diameter);  // the same screw seen on its head
 Drawing Washer(double diameter);
 Drawing FeatherKey(double length, double width);

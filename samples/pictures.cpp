@@ -119,7 +119,7 @@ Drawing SmallPartOf(Picture picture) {
         case Picture::ScrewM6:
             return HexScrew(6, 20);
         case Picture::ScrewM8:
-            return HexScrew(8, 25);
+            return HexScrew(8, 25, Material::DarkSteel);
         case Picture::Washer:
             return Washer(8);
         default:

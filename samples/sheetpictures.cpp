@@ -33,6 +33,39 @@ Drawing ShaftEnd(const QList<ShaftStep>& steps) {
     return view;
 }
 
+// A cut through a shaft where it has a keyway.
+Drawing KeywaySection(double diameter) {
+    const double radius = diameter / 2;
+    const double width = diameter * 0.28;
+    QPainterPath cut =
+        Circle({}, radius).subtracted(Box({-width / 2, -radius * 1.2, width, radius * 0.6}));
+    Drawing section;
+    section.Solid(cut, Material::Steel, 0);
+    for (double at = -diameter; at < diameter; at += diameter * 0.09) {
+        const QPainterPath hatch = Polygon({{at, radius},
+                                            {at + 0.01, radius},
+                                            {at + diameter + 0.01, -radius},
+                                            {at + diameter, -radius}});
+        section.Edge(hatch.intersected(cut));
+    }
+    section.Axis({-diameter * 0.65, 0}, {diameter * 0.65, 0});
+    section.Axis({0, -diameter * 0.65}, {0, diameter * 0.65});
+    return section;
+}
+
+// The side, the end, and a section at every keyway.
+QList<View> ShaftViews(const QList<ShaftStep>& steps) {
+    QList<View> views{{SteppedShaft(steps), {0.12, 0.14, 0.56, 0.36}},
+                      {ShaftEnd(steps), {0.78, 0.18, 0.14, 0.28}}};
+    double left = 0.12;
+    for (const ShaftStep& step : steps)
+        if (step.keyway) {
+            views.append({KeywaySection(step.diameter), {left, 0.64, 0.16, 0.18}});
+            left += 0.23;
+        }
+    return views;
+}
+
 QList<View> ViewsOf(Picture picture) {
     const QRectF front(0.12, 0.12, 0.48, 0.46);
     const QRectF right(0.70, 0.12, 0.22, 0.46);
@@ -42,17 +75,17 @@ QList<View> ViewsOf(Picture picture) {
                     {GearboxSide(), right},
                     {CoverUnit(), {0.12, 0.70, 0.34, 0.20}}};
         case Picture::InputShaft:
-            return {{SteppedShaft(InputShaftSteps()), {0.12, 0.16, 0.56, 0.36}},
-                    {ShaftEnd(InputShaftSteps()), {0.78, 0.2, 0.14, 0.28}}};
+            return ShaftViews(InputShaftSteps());
         case Picture::OutputShaft:
-            return {{SteppedShaft(OutputShaftSteps()), {0.12, 0.16, 0.56, 0.36}},
-                    {ShaftEnd(OutputShaftSteps()), {0.78, 0.2, 0.14, 0.28}}};
+            return ShaftViews(OutputShaftSteps());
         case Picture::OutputGear:
             return {{DrawingOf(picture), {0.12, 0.12, 0.5, 0.6}},
                     {SpurGearSide(kOutputGear.teeth, kOutputGear.module, kOutputGear.width),
                      {0.72, 0.12, 0.18, 0.6}}};
         case Picture::Housing:
-            return {{Housing(true), front}, {HousingSide(), right}};
+            return {{Housing(true), front},
+                    {HousingSide(), right},
+                    {CoverGasket(), {0.12, 0.70, 0.34, 0.20}}};  // its face towards the cover
         case Picture::CoverPlate:
             return {{CoverPlate(), {0.12, 0.12, 0.76, 0.44}},
                     {CoverPlateEdge(), {0.12, 0.7, 0.4, 0.1}}};
@@ -90,10 +123,12 @@ void PaintDimensions(QPainter& painter, const QRectF& view, const QRectF& millim
     painter.setPen(QPen(kInk, 0.6));
     for (const double x : {view.left(), view.right()})
         painter.drawLine(QPointF(x, view.bottom() + 3), QPointF(x, below + 4));
-    for (const double y : {view.top(), view.bottom()})
-        painter.drawLine(QPointF(view.left() - 3, y), QPointF(left - 4, y));
     Dimension(painter, {view.left(), below}, {view.right(), below},
               QString::number(qRound(millimetres.width())));
+    if (view.height() < 2 * kGap)  // the number would not fit
+        return;
+    for (const double y : {view.top(), view.bottom()})
+        painter.drawLine(QPointF(view.left() - 3, y), QPointF(left - 4, y));
     Dimension(painter, {left, view.bottom()}, {left, view.top()},
               QString::number(qRound(millimetres.height())));
 }
