@@ -2,11 +2,9 @@
 
 namespace samples {
 
-QList<Document> Gearbox() {
-    return GearboxAssemblies() + GearboxParts() + GearboxDrawings();
-}
+namespace {
 
-QList<Document> GearboxAssemblies() {
+QList<Document> MainAssembly() {
     return {
         {.path = kMainAssembly,
          .title = "Two-stage spur gearbox",
@@ -22,6 +20,11 @@ QList<Document> GearboxAssemblies() {
                         {"fasteners/hex screw M6.tfmprt", 36}},
          .hyperlinks = {"https://www.example.com/gearboxes/two-stage",
                         "https://docs.example.org/assembly/gearbox.html"}},
+    };
+}
+
+QList<Document> ShaftUnits() {
+    return {
         {.path = "input shaft/input shaft unit.tfmasm",
          .title = "Input shaft unit",
          .picture = Picture::InputUnit,
@@ -50,6 +53,11 @@ QList<Document> GearboxAssemblies() {
                         {"fasteners/feather key.tfmprt", 2},
                         {"bearings/shaft seal 40x62.tfmprt"}},
          .referencesLocked = true},
+    };
+}
+
+QList<Document> BearingUnits() {
+    return {
         {.path = "bearings/bearing unit 6205.tfmasm",
          .title = "Bearing unit 6205",
          .picture = Picture::BearingUnit6205,
@@ -71,6 +79,11 @@ QList<Document> GearboxAssemblies() {
          .components = {{"bearings/ball bearing 6208.tfmprt"},
                         {"bearings/retaining ring.tfmprt", 2},
                         {"bearings/spacer sleeve.tfmprt"}}},
+    };
+}
+
+QList<Document> BodyUnits() {
+    return {
         {.path = "housing/housing unit.tfmasm",
          .title = "Housing unit",
          .picture = Picture::HousingUnit,
@@ -93,6 +106,16 @@ QList<Document> GearboxAssemblies() {
                         {"fasteners/hex screw M6.tfmprt", 6},
                         {"fasteners/washer.tfmprt", 8}}},
     };
+}
+
+}  // namespace
+
+QList<Document> Gearbox() {
+    return GearboxAssemblies() + GearboxParts() + GearboxDrawings();
+}
+
+QList<Document> GearboxAssemblies() {
+    return MainAssembly() + ShaftUnits() + BearingUnits() + BodyUnits();
 }
 
 QList<Document> GearboxDrawings() {

@@ -66,6 +66,11 @@ QList<Document> BearingParts() {
          .mass = 0.37,
          .material = "100Cr6",
          .hyperlinks = {"https://catalogue.example.com/bearings/6208"}},
+    };
+}
+
+QList<Document> BearingAccessories() {
+    return {
         {.path = "bearings/spacer sleeve.tfmprt",
          .title = "Spacer sleeve",
          .picture = Picture::SpacerSleeve,
@@ -203,7 +208,8 @@ QList<Document> Fasteners() {
 }  // namespace
 
 QList<Document> GearboxParts() {
-    return ShaftParts() + BearingParts() + HousingParts() + CoverParts() + Fasteners();
+    return ShaftParts() + BearingParts() + BearingAccessories() + HousingParts() + CoverParts() +
+           Fasteners();
 }
 
 }  // namespace samples
