@@ -47,16 +47,21 @@ int RunWindow(int argc, char* argv[], const CommandLine& line) {
     QApplication::setApplicationVersion(QLatin1String(kVersion));
     ApplyTheme(line.theme);
     const DesktopSeams seams;
+    const bool endsAlone = line.quitWhenShown || !line.screenshot.isEmpty();
+    ConsoleDialogs unattended;
+    if (endsAlone)
+        gSeams.dialogs = &unattended;  // nobody is there to answer
     MainWindow window;
     window.show();
     if (!line.file.isEmpty())
         window.Open(line.file);
     int result = kExitDone;
-    const bool endsAlone = line.quitWhenShown || !line.screenshot.isEmpty();
     if (endsAlone) {
         QTimer::singleShot(0, &window, [&] {
             if (!line.screenshot.isEmpty())
                 result = WriteScreenshot(window, line.screenshot);
+            if (!line.file.isEmpty() && !window.HasDocument())
+                result = kExitNoDocument;
             QApplication::quit();
         });
     }

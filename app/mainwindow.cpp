@@ -36,6 +36,10 @@ void MainWindow::Open(const QString& path) {
     frame_->Shell().OpenPath(IsWebPath(path) ? path : QFileInfo(path).absoluteFilePath());
 }
 
+bool MainWindow::HasDocument() const {
+    return !frame_->Shell().m_partfilename.isEmpty();
+}
+
 void MainWindow::closeEvent(QCloseEvent* event) {
     if (const auto key = WindowKey())
         key->SetText(kGeometry, QString::fromLatin1(saveGeometry().toBase64()));

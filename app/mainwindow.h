@@ -13,6 +13,7 @@ class MainWindow : public QMainWindow {
 public:
     MainWindow();
     void Open(const QString& path);
+    bool HasDocument() const;
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -15,6 +15,7 @@ ReferenceTreeView::ReferenceTreeView(QWidget* parent) : QTreeView(parent) {
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setTextElideMode(Qt::ElideNone);
+    setIconSize({20, 20});
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     connect(this, &QAbstractItemView::pressed, this, [this](const QModelIndex& index) {
@@ -60,6 +61,13 @@ void ReferenceTreeView::mousePressEvent(QMouseEvent* event) {
 void ReferenceTreeView::mouseReleaseEvent(QMouseEvent* event) {
     QTreeView::mouseReleaseEvent(event);
     Q_EMIT MouseReleased(event->button(), event->modifiers(), event->globalPosition().toPoint());
+}
+
+// The column is as wide as its longest label, and at least as the view, so that a selected row is marked
+// to its end.
+void ReferenceTreeView::resizeEvent(QResizeEvent* event) {
+    header()->setMinimumSectionSize(viewport()->width());
+    QTreeView::resizeEvent(event);
 }
 
 // A right click opens its menu when the button is released; the menu key has no release.

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void wrongUsageEndsWithTwo_data();
     void wrongUsageEndsWithTwo();
     void helpAndVersionArePrinted();
+    void anUnattendedWindowWithoutItsDocumentEndsWithThree();
     void theWindowOpensWithTheDocument_data();
     void theWindowOpensWithTheDocument();
 };
@@ -165,6 +166,14 @@ void TestApp::helpAndVersionArePrinted() {
     const Run version({QStringLiteral("--version")});
     QCOMPARE(version.code, 0);
     QVERIFY(version.out.startsWith(QLatin1String("docbench ")));
+}
+
+void TestApp::anUnattendedWindowWithoutItsDocumentEndsWithThree() {
+    TestLibrary library;
+    const QString quit = QStringLiteral("--quit-when-shown");
+    QCOMPARE(Run({quit, library.Path(QStringLiteral("none.tfmasm"))}).code, 3);
+    QCOMPARE(Run({quit, library.MakeBroken(QStringLiteral("broken.tfmasm"))}).code, 3);
+    QCOMPARE(Run({quit, SmallAssembly(library)}).code, 0);  // with a cycle, of which a box tells
 }
 
 void TestApp::theWindowOpensWithTheDocument_data() {
