@@ -20,8 +20,10 @@ constexpr qint64 kBytesAnAttribute = 40;
 // much as parsing.
 constexpr qint64 kUncountedBytes = 256 << 10;
 
-constexpr unsigned kParseFlags = pugi::parse_default | pugi::parse_comments | pugi::parse_pi |
-                                 pugi::parse_doctype | pugi::parse_ws_pcdata_single;
+// As a fragment, so that what stands outside the root element is seen.
+constexpr unsigned kParseFlags = pugi::parse_default | pugi::parse_fragment | pugi::parse_comments |
+                                 pugi::parse_pi | pugi::parse_doctype |
+                                 pugi::parse_ws_pcdata_single;
 
 DocumentError XmlError(const QString& file, QByteArrayView part, const QString& reason) {
     return DamagedError(file, QStringLiteral("its part %1 %2").arg(ShownName(part), reason));
@@ -67,6 +69,11 @@ bool IsTooDeep(pugi::xml_node top) {
         node = node.next_sibling();
     }
     return false;
+}
+
+// The parser works in place and overlooks a last character that is text.
+bool EndsInTag(QByteArrayView bytes) {
+    return bytes.trimmed().endsWith('>');
 }
 
 // What is wrong outside the root element; the parser itself doesn't mind.
@@ -143,6 +150,8 @@ XmlPart XmlPart::Parse(QByteArray bytes, const QString& file, QByteArrayView par
         throw XmlError(file, part, QStringLiteral("is empty or no text in UTF-8"));
     if (TakesTooMuch(parsed.bytes_))
         throw XmlError(file, part, QStringLiteral("has too many elements"));
+    if (!EndsInTag(parsed.bytes_))
+        throw XmlError(file, part, QStringLiteral("does not end in a tag"));
     const pugi::xml_parse_result result = parsed.document_->load_buffer_inplace(
         parsed.bytes_.data(), size_t(parsed.bytes_.size()), kParseFlags, pugi::encoding_utf8);
     if (!result)
