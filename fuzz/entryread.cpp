@@ -1,38 +1,70 @@
-#include <sys/mman.h>
+#include <functional>
 
-#include <cstdlib>
-
-#include "docmodel/fileops.h"
+#include "docmodel/access.h"
 #include "docmodel/package.h"
+#include "fuzz/checks.h"
 #include "fuzz/entries.h"
 
 namespace docmodel {
 
-void FuzzRead(const uint8_t* bytes, size_t count) {
-    constexpr qint64 kLimit = 1 << 20;
-    const FileDescriptor file(memfd_create("fuzz", MFD_CLOEXEC));
-    if (!file.IsOpen() || !WriteAll(file.Get(), bytes, count, 0))
-        std::abort();
-    const QString path = QStringLiteral("/proc/self/fd/%1").arg(file.Get());
+namespace {
+
+// Every error must tell the user which file it is about.
+void Allow(const QString& path, const std::function<void()>& action) {
     try {
-        const Package package = Package::Open(path);
-        if (package.DeadBytes() < 0 || package.DeadBytes() > package.FileSize())
-            std::abort();
-        for (const QByteArray& name : package.PartNames()) {
-            if (!package.HasPart(name))
-                std::abort();
-            try {
-                if (package.ReadPart(name, kLimit).size() > kLimit)
-                    std::abort();
-            } catch (const DocumentError& error) {
-                if (!error.Description().contains(path))
-                    std::abort();  // the user would not know which file
-            }
-        }
+        action();
     } catch (const DocumentError& error) {
-        if (!error.Description().contains(path))
-            std::abort();
+        Demand(error.Description().contains(path));
     }
+}
+
+void ReadParts(const QString& path) {
+    constexpr qint64 kLimit = 1 << 20;
+    const Package package = Package::Open(path);
+    Demand(package.DeadBytes() >= 0 && package.DeadBytes() <= package.FileSize());
+    for (const QByteArray& name : package.PartNames()) {
+        Demand(package.HasPart(name));
+        Allow(path, [&] { Demand(package.ReadPart(name, kLimit).size() <= kLimit); });
+    }
+}
+
+void ReadTables(const QString& path) {
+    const auto file = Access().MakeDocumentFile();
+    file->Open(path);
+    for (int i = 0; i < file->GetComponentCount(); ++i)
+        file->GetComponent(i, QString());
+    for (int i = 0; i < file->GetExternalReferenceCount(); ++i)
+        file->GetExternalReference(i, QStringLiteral("http://server/folder/"));
+    for (int i = 0; i < file->GetConfigurationCount(); ++i) {
+        file->GetConfiguration(i);
+        file->GetConfigurationType(i);
+        if (const auto properties = file->GetCustomProperties(i))
+            properties->GetStamp();
+    }
+    for (int i = 0; i < file->GetHyperlinkCount(); ++i)
+        file->GetHyperlink(i);
+    file->GetReferencesLocked();
+}
+
+void ReadProperties(const QString& path) {
+    const auto info = Access().MakeDocumentInfo();
+    if (!info->Open(path))
+        return;
+    info->GetTitle();
+    info->GetCreated();
+    info->GetLastSaved();
+    for (int i = 0; i < info->GetCustomCount(); ++i)
+        info->GetCustomProperty(i);
+    info->GetLockedBy();
+}
+
+}  // namespace
+
+void FuzzRead(const uint8_t* bytes, size_t count) {
+    const QString path = InputFile(bytes, count);
+    Allow(path, [&] { ReadParts(path); });
+    Allow(path, [&] { ReadTables(path); });
+    Allow(path, [&] { ReadProperties(path); });
 }
 
 }  // namespace docmodel

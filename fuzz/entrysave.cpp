@@ -1,9 +1,9 @@
 #include <QFile>
 #include <QMap>
-#include <QTemporaryDir>
 #include <cstdlib>
 
 #include "docmodel/package.h"
+#include "fuzz/checks.h"
 #include "fuzz/entries.h"
 
 namespace docmodel {
@@ -14,17 +14,6 @@ using Parts = QMap<QByteArray, QByteArray>;
 
 constexpr qint64 kLimit = 1 << 20;
 constexpr char kPutPart[] = "docProps/core.xml";
-
-void Demand(bool condition) {
-    if (!condition)
-        std::abort();
-}
-
-QByteArray Contents(const QString& path) {
-    QFile file(path);
-    Demand(file.open(QIODevice::ReadOnly));
-    return file.readAll();
-}
 
 // The parts that can be read, but for those that the save writes.
 Parts ReadableParts(const Package& package) {
@@ -69,13 +58,7 @@ std::optional<Parts> Save(const QString& path, const QByteArray& put, const QByt
 }  // namespace
 
 void FuzzSave(const uint8_t* bytes, size_t count) {
-    static const QTemporaryDir folder(QStringLiteral("/dev/shm/docbench-fuzz-XXXXXX"));
-    const QString path = folder.filePath(QStringLiteral("fuzz.tfmprt"));
-    {
-        QFile file(path);
-        Demand(file.open(QIODevice::WriteOnly));
-        Demand(file.write(reinterpret_cast<const char*>(bytes), qint64(count)) == qint64(count));
-    }
+    const QString path = InputFile(bytes, count);
     constexpr int kLarge = 100'000;  // synced on its own
     const QByteArray put(count % 4 == 0 ? kLarge : int(count % 1000), char('a' + count % 26));
     const QByteArray document = "<document bytes=\"" + QByteArray::number(count) + "\"/>";

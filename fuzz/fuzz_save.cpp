@@ -2,5 +2,6 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t count) {
     docmodel::FuzzSave(bytes, count);
+    docmodel::FuzzChange(bytes, count);
     return 0;
 }

@@ -1,12 +1,15 @@
 #!/usr/bin/env python3
-"""Writes the seeds that another program than ours would make into the folder given."""
+"""makecorpus.py FOLDER TOOL: writes the seeds into a folder, with the tool docmodel and with zipfile."""
 
 import io
 import pathlib
+import subprocess
 import sys
+import tempfile
 import zipfile
 
 FOLDER = pathlib.Path(sys.argv[1])
+TOOL = sys.argv[2]
 
 
 class Pipe(io.RawIOBase):
@@ -52,3 +55,29 @@ with zipfile.ZipFile(FOLDER / "comment.zip", "w") as archive:
 
 with zipfile.ZipFile(FOLDER / "empty.zip", "w"):
     pass
+
+
+def tool(command, path, *arguments, options=()):
+    subprocess.run([TOOL, command, *options, path, *arguments], check=True)
+
+
+created = FOLDER / "created.tfmprt"
+created.unlink(missing_ok=True)
+tool("new", created)
+scratch = tempfile.TemporaryDirectory(dir="/tmp")  # relative paths are stored, and are to be short
+saved = pathlib.Path(scratch.name) / "saved.tfmprt"
+saved.write_bytes(created.read_bytes())
+tool("add-reference", saved, "/parts/screw.tfmprt", options=["--count", "8"])
+tool("add-reference", saved, "/parts/gear.tfmprt", options=["--external", "derived"])
+tool("add-hyperlink", saved, "http://server/a?b&c")
+tool("add-configuration", saved, "Größe 1", options=["--property", "Weight=2"])
+tool("set-property", saved, "Checked", "yes", options=["--type", "yesno"])
+tool("set-property", saved, "Due", "2004-05-31", options=["--type", "date"])
+tool("lock", saved, options=["--user", "erika"])
+tool("compact", saved)
+with zipfile.ZipFile(saved) as archive:
+    for name in ("docmodel/document.xml", "docProps/core.xml", "docProps/custom.xml"):
+        (FOLDER / pathlib.Path(name).name).write_bytes(archive.read(name))
+tool("add-hyperlink", saved, "notes.txt")
+(FOLDER / saved.name).write_bytes(saved.read_bytes())
+(FOLDER / "torn.tfmprt").write_bytes(saved.read_bytes()[:-20])
