@@ -5,7 +5,7 @@ set -uo pipefail
 cd "$(dirname "$0")/.."
 
 ./setup.sh || exit
-cmake --preset release && cmake --build --preset release || exit
+cmake --preset release && cmake --build --preset release --target benchmarks || exit
 export QT_QPA_PLATFORM=offscreen
 bin=build/release/bin
 sample=$("$bin/docbench-samples" out/sample-library | tail -n 1)
