@@ -19,7 +19,20 @@ struct DocumentBuilder::Data {
     QDateTime created;
     QDateTime saved;
     std::optional<QString> savedBy;
+    // How many rows the tables have; counted once, so that filling a table takes linear time.
+    std::optional<int> components;
+    std::optional<int> externals;
+    std::optional<int> hyperlinks;
 
+    // For adding rows. Raises when the document's format is too old to have any.
+    DocumentPart& Tables() {
+        DocumentPart& tables = Content().Tables();
+        if (!tables.IsCurrentFormat())
+            throw FailedError(path, QStringLiteral("changed"),
+                              QStringLiteral("its format is too old for references, "
+                                             "configurations and hyperlinks"));
+        return tables;
+    }
     DocumentContent& Content() { return change ? change->Content() : *fresh; }
     void SetSummary(SummaryField field, const QString& text) {
         RequireXmlText(text, path, NameOf(field));
@@ -173,15 +186,22 @@ int DocumentBuilder::AddComponent(const QString& target, int count) {
     if (count < 1)
         throw FailedError(data_->path, QStringLiteral("changed"),
                           QStringLiteral("a component can't be there %1 times").arg(count));
-    DocumentPart& tables = data_->Content().Tables();
+    DocumentPart& tables = data_->Tables();
     const StoredPath stored = data_->TargetFor(target);
-    return tables.AddComponent({stored, count});
+    if (!data_->components)
+        data_->components = int(tables.Components().size());
+    tables.AddComponent({stored, count});
+    return (*data_->components)++;
 }
 
 int DocumentBuilder::AddExternal(const QString& target, const QString& kind) {
     RequireXmlText(kind, data_->path, QStringLiteral("kind of a reference"));
     const StoredPath stored = data_->TargetFor(target);
-    return data_->Content().Tables().AddExternal({stored, kind});
+    DocumentPart& tables = data_->Tables();
+    if (!data_->externals)
+        data_->externals = int(tables.Externals().size());
+    tables.AddExternal({stored, kind});
+    return (*data_->externals)++;
 }
 
 int DocumentBuilder::AddConfiguration(const QString& name, int type,
@@ -192,7 +212,7 @@ int DocumentBuilder::AddConfiguration(const QString& name, int type,
                           QStringLiteral("the name \"%1\" of a configuration is empty or taken. "
                                          "Choose another one")
                               .arg(name));
-    const int index = data_->Content().Tables().AddConfiguration(name, type);
+    const int index = data_->Tables().AddConfiguration(name, type);
     data_->ChangeConfiguration(index, properties);
     return index;
 }
@@ -220,7 +240,11 @@ bool DocumentBuilder::DeleteConfigurationProperty(const QString& configuration,
 
 int DocumentBuilder::AddHyperlink(const QString& text) {
     RequireXmlText(text, data_->path, QStringLiteral("hyperlink"));
-    return data_->Content().Tables().AddHyperlink(text);
+    DocumentPart& tables = data_->Tables();
+    if (!data_->hyperlinks)
+        data_->hyperlinks = int(tables.Hyperlinks().size());
+    tables.AddHyperlink(text);
+    return (*data_->hyperlinks)++;
 }
 
 void DocumentBuilder::SetReferencesLocked(bool locked) {

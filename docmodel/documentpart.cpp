@@ -293,27 +293,17 @@ pugi::xml_node DocumentPart::AddTo(const char* table, const char* row) {
     return Append(element ? element : Append(xml_.Root(), table), row);
 }
 
-int DocumentPart::RowCount(const char* table, const char* row) const {
-    int count = 0;
-    ForEachRow(table, row, [&](pugi::xml_node, int) { ++count; });
-    return count;
-}
-
-int DocumentPart::AddComponent(const StoredComponent& row) {
-    const int position = RowCount("components", "component");
+void DocumentPart::AddComponent(const StoredComponent& row) {
     pugi::xml_node node = AddTo("components", "component");
     SetTarget(node, row.target);
     if (row.count != 1)
         node.append_attribute("count") = row.count;
-    return position;
 }
 
-int DocumentPart::AddExternal(const StoredExternal& row) {
-    const int position = RowCount("externals", "external");
+void DocumentPart::AddExternal(const StoredExternal& row) {
     pugi::xml_node node = AddTo("externals", "external");
     SetTarget(node, row.target);
     SetAttribute(node, "kind", row.kind);
-    return position;
 }
 
 // The id is one more than the largest ever given, which the table remembers past a deletion.
@@ -333,10 +323,8 @@ int DocumentPart::AddConfiguration(const QString& name, int type) {
     return int(rows.size());
 }
 
-int DocumentPart::AddHyperlink(const QString& text) {
-    const int position = RowCount("hyperlinks", "hyperlink");
+void DocumentPart::AddHyperlink(const QString& text) {
     SetAttribute(AddTo("hyperlinks", "hyperlink"), "target", text);
-    return position;
 }
 
 }  // namespace docmodel

@@ -76,11 +76,11 @@ public:
     void SetReferencesLocked(bool locked);
     void SetLock(const LockRecord& lock);
 
-    // Add a row at the end and give its position.
-    int AddComponent(const StoredComponent& row);
-    int AddExternal(const StoredExternal& row);
-    int AddConfiguration(const QString& name, int type);
-    int AddHyperlink(const QString& text);
+    // Add a row at the end.
+    void AddComponent(const StoredComponent& row);
+    void AddExternal(const StoredExternal& row);
+    int AddConfiguration(const QString& name, int type);  // gives its position
+    void AddHyperlink(const QString& text);
 
     QByteArray Bytes() const { return xml_.Bytes(); }
 
@@ -89,7 +89,6 @@ private:
     pugi::xml_node TableElement(const char* name) const;
     pugi::xml_node AddTo(const char* table, const char* row);
     pugi::xml_node Append(pugi::xml_node parent, const char* name);
-    int RowCount(const char* table, const char* row) const;
     pugi::xml_node ConfigurationElement(int index) const;
     // Calls `visit(node, index)` for each row, in order.
     template <typename Visit>

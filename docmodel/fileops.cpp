@@ -47,10 +47,12 @@ int FileOps::RenameNoReplace(const char* from, const char* to) {
         return 0;
     if (errno != EINVAL && errno != ENOSYS)
         return -1;
-    // The disk does not know the flag. A link refuses an existing name as well.
+    // The disk does not know the flag. A link refuses an existing name as well, and it is what
+    // counts: should the other name stay, the file is there all the same.
     if (link(from, to) != 0)
         return -1;
-    return unlink(from);
+    unlink(from);
+    return 0;
 }
 
 int FileOps::Unlink(const char* path) {

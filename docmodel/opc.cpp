@@ -122,7 +122,7 @@ QByteArray Relationships::Target(const PartKind& kind) const {
 
 QByteArray Relationships::FreeId() const {
     for (int number = 1;; ++number) {
-        const QByteArray id = "rId" + QByteArray::number(number);
+        QByteArray id = "rId" + QByteArray::number(number);
         if (!xml_.Root().find_child_by_attribute("Id", id.constData()))
             return id;
     }
@@ -146,7 +146,7 @@ QByteArray FindPart(const Package& package, const PartKind& kind) {
     if (package.HasPart(kDocumentPart) && package.HasPart(kind.name))
         return kind.name;
     if (package.HasPart(Relationships::kPart)) {
-        const QByteArray named = Relationships(&package).Target(kind);
+        QByteArray named = Relationships(&package).Target(kind);
         if (!named.isEmpty() && package.HasPart(named))
             return named;
     }

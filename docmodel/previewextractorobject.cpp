@@ -19,7 +19,7 @@ constexpr const char* kUsualNames[] = {"docProps/thumbnail.png", "docProps/thumb
                                        "docProps/thumbnail.jpg", "docProps/thumbnail.bmp"};
 
 QByteArray PreviewPart(const Package& package) {
-    const QByteArray named = FindPart(package, kThumbnailKind);
+    QByteArray named = FindPart(package, kThumbnailKind);
     if (!named.isEmpty())
         return named;
     for (const char* name : kUsualNames)

@@ -61,7 +61,7 @@ QString DateToText(const QDateTime& time) {
     }
     const QDateTime utc = time.toUTC();
     const bool hasMilliseconds = utc.time().msec() != 0;
-    const QString text = utc.toString(hasMilliseconds ? Qt::ISODateWithMs : Qt::ISODate);
+    QString text = utc.toString(hasMilliseconds ? Qt::ISODateWithMs : Qt::ISODate);
     if (!text.endsWith(kWholeDay))
         return text;
     return text.chopped(kWholeDay.size()) + kMidnightMoment;

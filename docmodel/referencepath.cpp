@@ -136,8 +136,8 @@ QString ResolvePath(const StoredPath& stored, const QString& holderFolder,
     if (path.size() == holderFolder.size() + relative.size() && path.startsWith(holderFolder) &&
         path.endsWith(relative))
         return CleanPath(path);
-    const QString beside = CleanPath(holderFolder + WithSlashes(relative));
-    const QString absolute = onlyRelative ? beside : CleanPath(path);
+    QString beside = CleanPath(holderFolder + WithSlashes(relative));
+    QString absolute = onlyRelative ? beside : CleanPath(path);
     if (absolute == beside || absolute.isEmpty())
         return beside;
     return !IsThere(absolute) && IsThere(beside) ? beside : absolute;

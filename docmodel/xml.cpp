@@ -127,7 +127,7 @@ QByteArray PrefixInScope(pugi::xml_node scope, const char* namespaceUri, bool na
                 continue;
             if (std::strcmp(attribute.value(), namespaceUri) != 0)
                 continue;
-            const QByteArray prefix = isDefault ? QByteArray("") : name.mid(6);
+            QByteArray prefix = isDefault ? QByteArray("") : name.mid(6);
             const char* nearest =
                 NamespaceOfPrefix(scope, prefix.constData(), size_t(prefix.size()));
             if (std::strcmp(nearest, namespaceUri) == 0)

@@ -132,7 +132,7 @@ void PrintHead(const char* label, const QJsonArray& rows) {
 }
 
 void PrintProperties(const QJsonArray& rows, const QString& indent) {
-    for (const QJsonValue& row : rows)
+    for (const QJsonValue row : rows)
         Out() << indent << row["name"].toString() << " (" << row["type"].toString()
               << "): " << ValueText(row["value"]) << '\n';
 }
@@ -142,11 +142,11 @@ void PrintReferences(const QJsonObject& document) {
         return row["missing"].toBool() ? QStringLiteral("  (missing)") : QString();
     };
     PrintHead("Components", document["components"].toArray());
-    for (const QJsonValue& row : document["components"].toArray())
+    for (const QJsonValue row : document["components"].toArray())
         Out() << "  " << row["count"].toInt() << " x " << row["path"].toString() << missing(row)
               << '\n';
     PrintHead("External references", document["externalReferences"].toArray());
-    for (const QJsonValue& row : document["externalReferences"].toArray())
+    for (const QJsonValue row : document["externalReferences"].toArray())
         Out() << "  " << row["path"].toString() << " (" << row["kind"].toString() << ')'
               << missing(row) << '\n';
 }
@@ -167,12 +167,12 @@ void PrintText(const QJsonObject& document) {
     PrintProperties(document["properties"].toArray(), QStringLiteral("  "));
     PrintReferences(document);
     PrintHead("Configurations", document["configurations"].toArray());
-    for (const QJsonValue& row : document["configurations"].toArray()) {
+    for (const QJsonValue row : document["configurations"].toArray()) {
         Out() << "  " << row["name"].toString() << " (" << row["type"].toString() << ")\n";
         PrintProperties(row["properties"].toArray(), QStringLiteral("    "));
     }
     PrintHead("Hyperlinks", document["hyperlinks"].toArray());
-    for (const QJsonValue& row : document["hyperlinks"].toArray())
+    for (const QJsonValue row : document["hyperlinks"].toArray())
         Out() << "  " << row.toString() << '\n';
 }
 

@@ -106,6 +106,24 @@ private Q_SLOTS:
         QCOMPARE(OpenFile(path_)->GetConfigurationCount(), 1);
     }
 
+    void AnOldFormatTakesNoRows() {
+        WriteTables(path_, Tables("", "0"));
+        DocumentBuilder document = DocumentBuilder::Edit(path_);
+        QVERIFY(ErrorOf([&] { document.AddComponent("a"); }).contains("too old"));
+        QVERIFY(!ErrorOf([&] { document.AddExternal("a", "k"); }).isEmpty());
+        QVERIFY(!ErrorOf([&] { document.AddConfiguration("a"); }).isEmpty());
+        QVERIFY(!ErrorOf([&] { document.AddHyperlink("a"); }).isEmpty());
+    }
+
+    void RowsAreNumberedAsTheyAreAdded() {
+        constexpr int kRows = 20'000;
+        DocumentBuilder document = DocumentBuilder::New(path_);
+        for (int i = 0; i < kRows; ++i)
+            QCOMPARE(document.AddComponent(QString("p%1.tfmprt").arg(i)), i);
+        document.Save();
+        QCOMPARE(OpenFile(path_)->GetComponentCount(), kRows);
+    }
+
     void TheSameSeedGivesTheSameModel() {
         const auto modelOf = [&](qint64 bytes, quint64 seed) {
             DocumentBuilder document =
