@@ -74,6 +74,10 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
         if (words.isEmpty())
             return Wrong(QStringLiteral("The command tree needs a FILE."));
     }
+    const bool asksForWindow =
+        parser.isSet(kScreenshotOption) || parser.isSet(kThemeOption) || parser.isSet(kQuitOption);
+    if (asksForWindow && line.does == CommandLine::Does::Tree)
+        return Wrong(QStringLiteral("The command tree opens no window."));
     if (words.size() > 1)
         return Wrong(QStringLiteral("One FILE only."));
     if (parser.isSet(kJsonOption) && line.does != CommandLine::Does::Tree)

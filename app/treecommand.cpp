@@ -38,12 +38,17 @@ std::vector<int> Depths(const CellNodes& nodes) {
     return depths;
 }
 
+// Two blanks a level; beyond what fits on any screen no more, as a chain may be thousands deep.
+QString Indent(int depth) {
+    return QString(2 * qMin(depth, 100), u' ');
+}
+
 void PrintText(const CellNodes& nodes, QTextStream& out) {
     const std::vector<int> depths = Depths(nodes);
     for (int i = 1; i <= nodes.Count(); ++i) {
         const CellNode& node = nodes.At(i);
         const NodeState state = StateOf(node);
-        out << QString(2 * depths[size_t(i)], u' ') << node.text.trimmed();
+        out << Indent(depths[size_t(i)]) << node.text.trimmed();
         if (state.missing)
             out << " [missing]";
         if (state.circular)
@@ -76,7 +81,7 @@ void PrintJson(const CellNodes& nodes, QTextStream& out) {
         if (node.row > 0)
             out << ',';
         if (i > 1)
-            out << '\n' << QString(2 * depth, u' ');
+            out << '\n' << Indent(depth);
         const NodeState state = StateOf(node);
         out << "{\"label\": " << JsonText(node.text) << ", \"path\": " << JsonText(node.tag)
             << ", \"missing\": " << JsonBool(state.missing)
@@ -102,6 +107,11 @@ int PrintTree(const QString& path, TreeFormat format) {
         PrintJson(tree.Nodes(), out);
     else
         PrintText(tree.Nodes(), out);
+    out.flush();
+    if (out.status() != QTextStream::Ok) {
+        QTextStream(stderr) << "The tree can't be written to the output.\n";
+        return kExitPartly;
+    }
     return tree.HadErrors() ? kExitPartly : kExitDone;
 }
 

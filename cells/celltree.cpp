@@ -80,14 +80,16 @@ QVariant CellTree::data(const QModelIndex& index, int role) const {
         case Qt::DisplayRole:
             return node.text;
         case Qt::ToolTipRole:
-            return node.tag;
+            return node.description.isEmpty() ? node.tag : node.description;
+        case Qt::AccessibleDescriptionRole:
+            return node.description;
         case Qt::DecorationRole:
             return pictures_ && !node.image.isEmpty() ? QVariant(pictures_(node.image))
                                                       : QVariant();
         case Qt::ForegroundRole:
             return ForegroundFor(node.foreColor, QGuiApplication::palette());
         case Qt::BackgroundRole:
-            return BackgroundFor(node.backColor);
+            return BackgroundFor(node.backColor, QGuiApplication::palette());
         default:
             return {};
     }

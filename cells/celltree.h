@@ -15,8 +15,9 @@ namespace docbench {
 // One node. Its index in the tree's node list, counted from 1, is its handle; 0 stands for no node.
 struct CellNode {
     QString text = {};
-    QString tag = {};    // hidden: what the node stands for
-    QString image = {};  // key of its picture; empty for none
+    QString tag = {};          // hidden: what the node stands for
+    QString description = {};  // what picture and colour say, in words; empty for a plain node
+    QString image = {};        // key of its picture; empty for none
     CellColor foreColor = kColorNormal;
     CellColor backColor = kColorWhite;
     int parent = 0;

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <optional>
 
 #include "platform/filefilter.h"
 
@@ -52,11 +53,44 @@ Dialogs::Answer AnswerOf(int button) {
     }
 }
 
+// The window that a dialog stands before: the active one, else the first that is shown. Never one
+// that goes away when it is closed, since it would take the dialog with it.
+QWidget* Owner() {
+    QWidgetList windows{QApplication::activeWindow()};
+    windows += QApplication::topLevelWidgets();
+    for (QWidget* window : windows) {
+        if (window && window->isVisible() && !window->testAttribute(Qt::WA_DeleteOnClose))
+            return window;
+    }
+    return nullptr;
+}
+
+// A dialog has the normal cursor, also while something waits for its answer.
+class NormalCursor {
+public:
+    NormalCursor() {
+        if (const QCursor* cursor = QGuiApplication::overrideCursor())
+            former_ = *cursor;
+        while (QGuiApplication::overrideCursor())
+            QGuiApplication::restoreOverrideCursor();
+    }
+    ~NormalCursor() {
+        if (former_)
+            QGuiApplication::setOverrideCursor(*former_);
+    }
+    NormalCursor(const NormalCursor&) = delete;
+    NormalCursor& operator=(const NormalCursor&) = delete;
+
+private:
+    std::optional<QCursor> former_;
+};
+
 }  // namespace
 
 Dialogs::Answer DesktopDialogs::Box(const QString& text, Icon icon, const QString& title,
                                     Buttons buttons) {
-    QMessageBox box(IconOf(icon), title, text, ButtonsOf(buttons), QApplication::activeWindow());
+    const NormalCursor normal;
+    QMessageBox box(IconOf(icon), title, text, ButtonsOf(buttons), Owner());
     box.setTextFormat(Qt::PlainText);  // a file name is no markup
     if (buttons == Buttons::YesNo)
         box.setEscapeButton(QMessageBox::No);
@@ -64,14 +98,16 @@ Dialogs::Answer DesktopDialogs::Box(const QString& text, Icon icon, const QStrin
 }
 
 QString DesktopDialogs::OpenFile(const QString& title, const QString& filter) {
-    QFileDialog dialog(QApplication::activeWindow(), title);
+    const NormalCursor normal;
+    QFileDialog dialog(Owner(), title);
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setNameFilters(NameFiltersOf(filter));
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 QString DesktopDialogs::BrowseFolder(const QString& title, const QString& start) {
-    return QFileDialog::getExistingDirectory(QApplication::activeWindow(), title, start);
+    const NormalCursor normal;
+    return QFileDialog::getExistingDirectory(Owner(), title, start);
 }
 
 }  // namespace docbench

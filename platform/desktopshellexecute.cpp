@@ -30,9 +30,11 @@ bool DesktopShellExecute::Execute(const QString& verb, const QString& file,
     const QFileInfo info(file);
     const bool opens =
         verb.isEmpty() || verb.compare(QLatin1String("open"), Qt::CaseInsensitive) == 0;
-    if (opens && info.isFile() && info.isExecutable())
-        return QProcess::startDetached(info.absoluteFilePath(),
-                                       QProcess::splitCommand(Given(parameters)), Given(folder));
+    // On some disks every file counts as executable: what can't be started is opened all the same.
+    if (opens && info.isFile() && info.isExecutable() &&
+        QProcess::startDetached(info.absoluteFilePath(), QProcess::splitCommand(Given(parameters)),
+                                Given(folder)))
+        return true;
     const QUrl url = UrlOf(file);
     if (url.isLocalFile() && !info.exists())
         return false;

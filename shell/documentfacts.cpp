@@ -1,7 +1,9 @@
 #include "shell/documentfacts.h"
 
 #include "services/documentlibrary.h"
+#include "services/errorstate.h"
 #include "services/paths.h"
+#include "shell/locking.h"
 
 namespace docbench {
 
@@ -27,15 +29,13 @@ DocumentFacts Read(const QString& path) {
     DocumentFacts facts;
     facts.reached = ReadStage::Opening;
     try {
-        const auto info = Documents().MakeDocumentInfo();
-        if (info->Open(path))
-            facts.locked = info->GetLocked();
+        facts.locked = ReadLockState(path);
         facts.exists = FileExists(path);
         if (facts.exists)
             ReadTables(path, facts);
         facts.reached = ReadStage::Complete;
-    } catch (const DocumentError& error) {
-        facts.error = error.Description();
+    } catch (const std::exception& error) {
+        facts.error = DescriptionOf(error);
     }
     return facts;
 }

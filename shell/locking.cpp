@@ -2,6 +2,7 @@
 
 #include "services/dialogs.h"
 #include "services/documentlibrary.h"
+#include "services/errorstate.h"
 #include "services/language.h"
 #include "services/seams.h"
 #include "services/texts.h"
@@ -44,6 +45,17 @@ bool ChangeLock(DocumentInfo& info, bool wantLocked, const QString& path) {
 
 }  // namespace
 
+std::optional<bool> ReadLockState(const QString& path) {
+    try {
+        const auto info = Documents().MakeDocumentInfo();
+        if (info->Open(path))
+            return info->GetLocked();
+    } catch (const std::exception&) {
+        // Whatever keeps the record from being read, it was not opened: the caller's state stays.
+    }
+    return std::nullopt;
+}
+
 void ReportAccessState(int code, const QString& path) {
     switch (code) {
         case kReadOnly:
@@ -64,10 +76,11 @@ void ApplyLock(ReferenceTree& tree, bool wantLocked, int node) {
         const auto info = Documents().MakeDocumentInfo();
         if (!info->Open(path))
             return;
-        tree.currentLocked = ChangeLock(*info, wantLocked, path);
+        const bool locked = ChangeLock(*info, wantLocked, path);
         info->Save();  // writes the record whether or not the lock changed
-    } catch (const DocumentError& error) {
-        return Warn(error.Description());
+        tree.currentLocked = locked;
+    } catch (const std::exception& error) {
+        return Warn(DescriptionOf(error));
     }
     const QString picture = DocumentPicture(path, tree.currentLocked);
     if (!picture.isEmpty())

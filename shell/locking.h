@@ -1,9 +1,14 @@
 // Locks and unlocks the documents of a reference tree, and marks nodes for locking as a group.
 #pragma once
 
+#include <optional>
+
 #include "shell/referencetree.h"
 
 namespace docbench {
+
+// Whether the document at `path` is locked; none when its record can't be opened.
+std::optional<bool> ReadLockState(const QString& path);
 
 // Shows why a document can't be written; `code` is that of DocumentFile::GetAccessState.
 void ReportAccessState(int code, const QString& path);

@@ -15,8 +15,10 @@ constexpr int kMargin = TwipsToPixels(60);  // what is left of either side at th
 }  // namespace
 
 void PaneSplitterHandle::mousePressEvent(QMouseEvent* event) {
-    splitterGrabX = event->position().toPoint().x();
-    update();
+    if (event->button() == Qt::LeftButton) {
+        splitterGrabX = event->position().toPoint().x();
+        update();
+    }
     QSplitterHandle::mousePressEvent(event);
 }
 

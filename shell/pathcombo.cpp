@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QWheelEvent>
 
 namespace docbench {
 
@@ -30,6 +31,11 @@ void PathCombo::keyPressEvent(QKeyEvent* event) {
         return;
     }
     QComboBox::keyPressEvent(event);
+}
+
+// The wheel would open one document after the other on its way through the list.
+void PathCombo::wheelEvent(QWheelEvent* event) {
+    event->ignore();
 }
 
 }  // namespace docbench

@@ -1,5 +1,6 @@
 #include "shell/pathdrop.h"
 
+#include <QApplication>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QUrl>
@@ -18,7 +19,8 @@ bool PathDrop::eventFilter(QObject* watched, QEvent* event) {
         return QObject::eventFilter(watched, event);
     auto& drop = static_cast<QDropEvent&>(*event);
     const QString path = PathIn(*drop.mimeData());
-    if (path.isEmpty()) {
+    // A box that waits for its answer does not keep drops away.
+    if (path.isEmpty() || QApplication::activeModalWidget()) {
         drop.ignore();
         return true;
     }

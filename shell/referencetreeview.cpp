@@ -9,6 +9,13 @@
 
 namespace docbench {
 
+namespace {
+
+// The view lays opened levels out one inside the other; a hostile chain of documents stays closed.
+constexpr size_t kDeepestShown = 1000;
+
+}  // namespace
+
 ReferenceTreeView::ReferenceTreeView(QWidget* parent) : QTreeView(parent) {
     setHeaderHidden(true);
     setUniformRowHeights(true);  // keeps layout independent of the number of rows
@@ -43,9 +50,13 @@ void ReferenceTreeView::SelectNode(int node) {
 }
 
 void ReferenceTreeView::ShowNode(int node) {
-    for (int above = tree_->Nodes().At(node).parent; above != 0;
-         above = tree_->Nodes().At(above).parent)
-        ExpandNode(above);
+    std::vector<int> above;
+    for (int i = tree_->Nodes().At(node).parent; i != 0; i = tree_->Nodes().At(i).parent)
+        above.push_back(i);
+    if (above.size() > kDeepestShown)
+        return;
+    for (const int i : above)
+        ExpandNode(i);
 }
 
 void ReferenceTreeView::ExpandNode(int node) {
@@ -63,17 +74,35 @@ void ReferenceTreeView::mouseReleaseEvent(QMouseEvent* event) {
     Q_EMIT MouseReleased(event->button(), event->modifiers(), event->globalPosition().toPoint());
 }
 
-// The column is as wide as its longest label, and at least as the view, so that a selected row is marked
-// to its end.
+void ReferenceTreeView::keyPressEvent(QKeyEvent* event) {
+    const QScopedValueRollback guard(keyPressed_, true);
+    QTreeView::keyPressEvent(event);
+}
+
+// A loaded tree always has a selected node: what would only take the selection away does nothing.
+QItemSelectionModel::SelectionFlags ReferenceTreeView::selectionCommand(const QModelIndex& index,
+                                                                        const QEvent* event) const {
+    const QItemSelectionModel::SelectionFlags command = QTreeView::selectionCommand(index, event);
+    const bool deselects = command & (QItemSelectionModel::Deselect | QItemSelectionModel::Toggle);
+    return deselects ? QItemSelectionModel::NoUpdate : command;
+}
+
+// The column is as wide as its longest label, and at least as the view, so that a selected row is
+// marked to its end.
 void ReferenceTreeView::resizeEvent(QResizeEvent* event) {
     header()->setMinimumSectionSize(viewport()->width());
+    resizeColumnToContents(0);
     QTreeView::resizeEvent(event);
 }
 
 // A right click opens its menu when the button is released; the menu key has no release.
 void ReferenceTreeView::contextMenuEvent(QContextMenuEvent* event) {
-    if (event->reason() == QContextMenuEvent::Keyboard)
-        Q_EMIT MenuKeyPressed(viewport()->mapToGlobal(visualRect(currentIndex()).center()));
+    if (event->reason() == QContextMenuEvent::Keyboard && currentIndex().isValid()) {
+        scrollTo(currentIndex());
+        const QRect row = visualRect(currentIndex());
+        Q_EMIT MenuKeyPressed(viewport()->mapToGlobal(
+            QPoint(qMin(row.center().x(), viewport()->width() / 2), row.center().y())));
+    }
     event->accept();
 }
 
@@ -87,7 +116,10 @@ void ReferenceTreeView::selectionChanged(const QItemSelection& selected,
 }
 
 void ReferenceTreeView::Pick(const QModelIndex& index) {
-    Q_EMIT NodeClick(tree_->NodeOf(index));
+    const int node = tree_->NodeOf(index);
+    Q_EMIT NodeClick(node);
+    if (keyPressed_)
+        Q_EMIT PickedByKey(node);
 }
 
 }  // namespace docbench

@@ -23,6 +23,7 @@ public:
 Q_SIGNALS:
     void MousePressed(Qt::MouseButton button);  // before the node click that may come of it
     void NodeClick(int node);                   // picked by mouse or keyboard, also once more
+    void PickedByKey(int node);  // behind the NodeClick: no MouseReleased will follow
     void MouseReleased(Qt::MouseButton button, Qt::KeyboardModifiers modifiers,
                        QPoint globalPosition);
     void MenuKeyPressed(QPoint globalPosition);
@@ -30,6 +31,9 @@ Q_SIGNALS:
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
     void resizeEvent(QResizeEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void selectionChanged(const QItemSelection& selected,
@@ -40,6 +44,7 @@ private:
 
     CellTree* tree_ = nullptr;
     bool programSelects_ = false;
+    bool keyPressed_ = false;     // the event under way is a key's
     bool pickedByPress_ = false;  // the press under way has already told of a node
 };
 

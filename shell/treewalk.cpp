@@ -51,11 +51,13 @@ TreeWalk::Entered TreeWalk::Enter(int parent, const QString& path, const QString
         node.text = Format(Text::CircularNode, node.text);
         node.foreColor = kColorRed;
         circular_.push_back(index);
-        gSeams.dialogs->Box(Format(Text::CircularReference, path), Dialogs::Icon::Stop, gAppTitle);
+        node.description = Format(Text::CircularReference, path);
+        gSeams.dialogs->Box(node.description, Dialogs::Icon::Stop, gAppTitle);
         return Entered::Circular;
     }
     if (!facts.exists && facts.error.isEmpty()) {
         node.foreColor = kColorRed;
+        node.description = Format(Text::NodeMissing, path);
         return Entered::Missing;
     }
     levels_.push_back({.node = index, .facts = &facts, .isExternal = !labelExtra.isEmpty()});
@@ -64,10 +66,10 @@ TreeWalk::Entered TreeWalk::Enter(int parent, const QString& path, const QString
 }
 
 bool TreeWalk::Advance(Level& level) {
-    if (IsFull())
-        return false;
     // Entering a row may move the levels, so nothing of `level` is touched afterwards.
     if (level.nextComponent < level.facts->components.size()) {
+        if (IsFull())
+            return false;
         const ComponentRow& row = level.facts->components[level.nextComponent++];
         EnterComponent(level, row);
         return true;
@@ -76,6 +78,8 @@ bool TreeWalk::Advance(Level& level) {
         const ExternalRow& row = level.facts->externals[level.nextExternal++];
         if (row.path.isEmpty() || DocTypeOf(row.path) == DocType::Assembly)
             continue;  // external references to assemblies are not shown
+        if (IsFull())
+            return false;
         EnterExternal(level, row);
         return true;
     }

@@ -46,7 +46,8 @@ private:
     void EnterComponent(const Level& level, const ComponentRow& row);
     void EnterExternal(const Level& level, const ExternalRow& row);
     bool Leave(const Level& level);  // finishes the node's label; false after an error
-    bool IsFull();                   // the tree may grow no further; says so the first time
+    bool
+    IsFull();  // with one more row to come: the tree may grow no further; says so the first time
     void ReportError(const QString& path, const QString& description);
 
     bool& currentLocked_;

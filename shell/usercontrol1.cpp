@@ -4,7 +4,7 @@
 
 #include "cells/celltree.h"
 #include "services/dialogs.h"
-#include "services/documentlibrary.h"
+#include "services/docaccess.h"
 #include "services/language.h"
 #include "services/openexternal.h"
 #include "services/paths.h"
@@ -105,8 +105,12 @@ void UserControl1::ConnectTree() {
     connect(ui_->tvw, &ReferenceTreeView::MousePressed, this,
             [this](Qt::MouseButton button) { leftClickPending = button != Qt::RightButton; });
     connect(ui_->tvw, &ReferenceTreeView::NodeClick, this, &UserControl1::NodeClick);
+    connect(ui_->tvw, &ReferenceTreeView::PickedByKey, this, &UserControl1::ReadLock);
     connect(ui_->tvw, &ReferenceTreeView::MouseReleased, this, &UserControl1::MouseUp);
-    connect(ui_->tvw, &ReferenceTreeView::MenuKeyPressed, this, &UserControl1::ShowMenu);
+    connect(ui_->tvw, &ReferenceTreeView::MenuKeyPressed, this, [this](QPoint globalPosition) {
+        ReadLock(ui_->tvw->SelectedNode());
+        ShowMenu(globalPosition);
+    });
 }
 
 void UserControl1::ConnectWaysIn() {
@@ -123,7 +127,9 @@ void UserControl1::ConnectWaysIn() {
                                                   {ui_->filepathCombo->lineEdit(), Takes::Files},
                                                   {ui_->tvw->viewport(), Takes::FilesOrText}};
     for (const auto& [target, takes] : targets) {
-        connect(new PathDrop(target, takes), &PathDrop::Dropped, this, &UserControl1::OpenAndList);
+        // Queued: the program that the files come from waits until the drop has been answered.
+        connect(new PathDrop(target, takes), &PathDrop::Dropped, this, &UserControl1::OpenAndList,
+                Qt::QueuedConnection);
     }
 }
 
@@ -164,7 +170,7 @@ void UserControl1::ShowPane(const PaneCommand& command, const QString& path,
                            .actionReplace = command.actionReplace});
     if (command.followsLock)
         pane->Enable(!tree_->currentLocked);
-    if (command.takesFocus)
+    if (command.takesFocus && !searches)
         pane->setFocus();
 }
 
@@ -201,11 +207,11 @@ QVariant UserControl1::GetLockState() {
     const int node = ui_->tvw->SelectedNode();
     if (node == 0)
         return {};
-    const auto info = Documents().MakeDocumentInfo();
-    if (!info->Open(tree_->Nodes().At(node).tag))
+    const std::optional<bool> locked = ReadLockState(tree_->Nodes().At(node).tag);
+    if (!locked)
         return {};
-    tree_->currentLocked = info->GetLocked();
-    return tree_->currentLocked;
+    tree_->currentLocked = *locked;
+    return *locked;
 }
 
 void UserControl1::ReadProperties(const QVariantMap& saved) {
@@ -232,6 +238,7 @@ void UserControl1::AddPane(PaneId id, Pane* pane) {
     ui_->paneLayout->addWidget(pane, 1);
     pane->hide();
     connect(pane, &Pane::FileUpdated, this, &UserControl1::RefreshTree);
+    PassStatusBar(isVisible() ? statusBarTarget.data() : nullptr);
 }
 
 void UserControl1::showEvent(QShowEvent* event) {
@@ -343,10 +350,10 @@ void UserControl1::MouseUp(Qt::MouseButton button, Qt::KeyboardModifiers modifie
 }
 
 void UserControl1::ReadLock(int node) {
-    const auto info = Documents().MakeDocumentInfo();
-    if (!info->Open(tree_->Nodes().At(node).tag))
+    const std::optional<bool> locked = ReadLockState(tree_->Nodes().At(node).tag);
+    if (!locked)
         return;
-    tree_->currentLocked = info->GetLocked();
+    tree_->currentLocked = *locked;
     EnableEditors(!tree_->currentLocked, !tree_->currentLocked);
 }
 

@@ -1,4 +1,5 @@
-// Shows the wait cursor while it lives.
+// Shows the wait cursor while it lives. The cursor is one value and no stack: the first of several
+// to end brings the normal one back.
 #pragma once
 
 #include <QGuiApplication>
@@ -7,7 +8,10 @@ namespace docbench {
 
 class WaitCursor {
 public:
-    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    WaitCursor() {
+        if (!QGuiApplication::overrideCursor())
+            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    }
     ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
     WaitCursor(const WaitCursor&) = delete;
     WaitCursor& operator=(const WaitCursor&) = delete;

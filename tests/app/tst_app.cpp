@@ -149,6 +149,8 @@ void TestApp::wrongUsageEndsWithTwo_data() {
     row("two files", {QStringLiteral("tree"), QStringLiteral("a"), QStringLiteral("b")});
     row("unknown option", {QStringLiteral("--nonsense")});
     row("json without tree", {QStringLiteral("a.tfmprt"), QStringLiteral("--json")});
+    row("window option with tree",
+        {QStringLiteral("tree"), QStringLiteral("a.tfmprt"), QStringLiteral("--quit-when-shown")});
     row("unknown theme", {QStringLiteral("--theme"), QStringLiteral("plaid")});
 }
 

@@ -76,12 +76,12 @@ void TestCellTree::coloursAreStoredBlueGreenRed() {
     const QPalette light(Qt::white);
     QCOMPARE(ForegroundFor(kColorRed, light).value<QBrush>().color(), QColor(Qt::red));
     QCOMPARE(ForegroundFor(kColorBlue, light).value<QBrush>().color(), QColor(Qt::blue));
-    QCOMPARE(BackgroundFor(kColorMarked).value<QBrush>().color(), QColor(0x80, 0x80, 0x80));
+    QCOMPARE(BackgroundFor(kColorMarked, light).value<QBrush>().color(), QColor(0x80, 0x80, 0x80));
 }
 
 void TestCellTree::normalTextAndWhiteBackgroundAreThePalettes() {
     QVERIFY(!ForegroundFor(kColorNormal, QPalette(Qt::white)).isValid());
-    QVERIFY(!BackgroundFor(kColorWhite).isValid());
+    QVERIFY(!BackgroundFor(kColorWhite, QPalette(Qt::white)).isValid());
 }
 
 void TestCellTree::redStaysReadableOnADarkBackground() {

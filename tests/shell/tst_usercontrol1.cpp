@@ -9,8 +9,10 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QUrl>
+#include <QWheelEvent>
 
 #include "services/language.h"
+#include "services/settingsstore.h"
 #include "services/texts.h"
 #include "services/username.h"
 #include "services/webdocument.h"
@@ -19,6 +21,7 @@
 #include "shell/referencetree.h"
 #include "shell/referencetreeview.h"
 #include "shell/usercontrol1.h"
+#include "tests/support/fakeoutside.h"
 #include "tests/support/fakepane.h"
 #include "tests/support/testdialogs.h"
 #include "tests/support/testenvironment.h"
@@ -82,6 +85,7 @@ void Drop(QWidget* target, QMimeData& data) {
     QCoreApplication::sendEvent(target, &enter);
     QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(target, &drop);
+    QCoreApplication::processEvents();  // documents are opened behind the drop
 }
 
 void DropFiles(QWidget* target, const QStringList& paths) {
@@ -129,6 +133,21 @@ private Q_SLOTS:
     void clickingAMissingDocumentEmptiesThePane();
     void clickingAMissingDocumentInReplaceMakesItCurrent();
     void theKeyboardPicksNodesToo();
+    void aNodePickedByKeyTellsItsLock();
+    void theSelectionCanNotBeTakenAway();
+    void aCircularNodeIsMadeVisible();
+    void openingFromAWebFolderIsNotTakenForACommand();
+    void theCaptionsAreSetAtTheStart();
+    void theMenuRunsItsCommands();
+    void aChosenEntryIsTrustedWhateverItsType();
+    void theDescriptionFollowsTheStoredOption();
+    void panesThatAreWorkedInGetTheFocus();
+    void thePathTellsWhetherTheDocumentIsInAWebFolder();
+    void browsingLeavesAPaneThatWorksOnOneDocument();
+    void filesWinOverTextInADropOnTheTree();
+    void theWheelOverThePathBoxOpensNothing();
+    void aLateUnlockOfMarkedNodes();
+    void withoutASelectionLockingDoesNothing();
     void shiftClickMarksAndAPlainClickClears();
     void aClickReadsTheLockState();
     void theLockStateOfTheSelectedDocument();
@@ -397,7 +416,7 @@ void TestUserControl1::cancelledBrowsingEndsMarking() {
 
 void TestUserControl1::droppingSeveralFilesOpensTheFirst_data() {
     QTest::addColumn<QString>("target");
-    for (const char* target : {"", "filepathCombo", "tvw"})
+    for (const char* target : {"", "filepathCombo", "its text", "tvw"})
         QTest::newRow(target) << QString::fromLatin1(target);
 }
 
@@ -407,6 +426,8 @@ void TestUserControl1::droppingSeveralFilesOpensTheFirst() {
     QWidget* widget = &bench.shell;
     if (target == QLatin1String("filepathCombo"))
         widget = bench.PathBox();
+    if (target == QLatin1String("its text"))
+        widget = bench.PathBox()->lineEdit();
     if (target == QLatin1String("tvw"))
         widget = bench.Tree()->viewport();
     DropFiles(widget, {bench.left, bench.top, bench.pin});
@@ -490,6 +511,203 @@ void TestUserControl1::theKeyboardPicksNodesToo() {
     QTest::keyClick(bench.Tree(), Qt::Key_Down);
     QCOMPARE(bench.shell.m_partfilename, bench.left);
     QCOMPARE(references->documents.last().path, bench.left);
+}
+
+void TestUserControl1::aNodePickedByKeyTellsItsLock() {
+    Bench bench;
+    FakePane* editor = bench.Add(PaneId::Configurations);
+    bench.library.Lock(bench.left, QStringLiteral("somebody"));
+    bench.Open();
+    bench.Click(1);
+    bench.shell.SetCurrentFunction(QStringLiteral("EDIT"));
+    QCOMPARE(editor->calls.last(), QStringLiteral("Enable 1"));
+    QTest::keyClick(bench.Tree(), Qt::Key_Down);
+    QCOMPARE(editor->calls.last(), QStringLiteral("Enable 0"));
+}
+
+void TestUserControl1::theSelectionCanNotBeTakenAway() {
+    Bench bench;
+    bench.Open();
+    bench.Click(1, Qt::LeftButton, Qt::ControlModifier);
+    QCOMPARE(bench.Tree()->SelectedNode(), 1);
+    QTest::keyClick(bench.Tree(), Qt::Key_Space, Qt::ControlModifier);
+    QCOMPARE(bench.Tree()->SelectedNode(), 1);
+}
+
+void TestUserControl1::aCircularNodeIsMadeVisible() {
+    Bench bench;
+    const QString a = bench.library.Path(QStringLiteral("a.tfmasm"));
+    const QString b = bench.library.Make(QStringLiteral("b.tfmasm"), {{a}});
+    bench.library.Make(QStringLiteral("a.tfmasm"), {{b}});
+    bench.dialogs.Expect(Format(Text::CircularReference, a), Dialogs::Icon::Stop);
+    bench.shell.OpenPath(a);
+    QVERIFY(bench.Tree()->isExpanded(bench.shell.Tree().Model().IndexOf(1)));
+    QVERIFY(bench.Tree()->isExpanded(bench.shell.Tree().Model().IndexOf(2)));
+}
+
+void TestUserControl1::openingFromAWebFolderIsNotTakenForACommand() {
+    Bench bench;
+    bench.shell.SetCurrentFunction(QStringLiteral("REF"));
+    bench.shell.SetCurrentFunction(QStringLiteral("OPENURL"));
+    QCOMPARE(bench.shell.CurrentFunction(), QStringLiteral("REF"));
+}
+
+void TestUserControl1::theCaptionsAreSetAtTheStart() {
+    Bench bench;
+    QCOMPARE(bench.Child<QPushButton>("Command1")->text(), gStrings[10]);
+    QCOMPARE(bench.Child<QLabel>("Label1")->text(), gStrings[308]);
+    QCOMPARE(bench.Child<QMenu>("mnEdit")->title(), QStringLiteral("mnEdit"));
+    QCOMPARE(bench.Child<QAction>("mnopen")->text(), gStrings[25]);
+    QCOMPARE(bench.Child<QAction>("mnReplace")->text(), gStrings[331]);
+    QCOMPARE(bench.Child<QAction>("mnrename")->text(), gStrings[207]);
+    QCOMPARE(bench.Child<QAction>("mncopy")->text(), gStrings[5]);
+}
+
+void TestUserControl1::theMenuRunsItsCommands() {
+    Bench bench;
+    FakeShellExecute programs;
+    FakeOutside outside;
+    bench.Open();
+    bench.Child<QAction>("mnrename")->trigger();
+    QCOMPARE(bench.shell.CurrentFunction(), QStringLiteral("RENAME"));
+    bench.Child<QAction>("mncopy")->trigger();
+    QCOMPARE(bench.shell.CurrentFunction(), QStringLiteral("COPY"));
+    bench.Click(4);
+    bench.Child<QAction>("mnopen")->trigger();
+    QCOMPARE(outside.asked, QStringList());  // a missing document is not opened
+    bench.Click(3);
+    bench.Child<QAction>("mnopen")->trigger();
+    QCOMPARE(outside.asked, QStringList{QStringLiteral("Tessacad.Application")});
+}
+
+void TestUserControl1::aChosenEntryIsTrustedWhateverItsType() {
+    Bench bench;
+    bench.Open();
+    const QString notes = bench.library.Path(QStringLiteral("notes.txt"));
+    bench.PathBox()->insertItem(0, notes);
+    bench.PathBox()->setFocus();
+    bench.PathBox()->setCurrentIndex(1);
+    QTest::keyClick(bench.PathBox(), Qt::Key_Up);
+    QCOMPARE(bench.shell.m_partfilename, QString());
+    QCOMPARE(bench.status.caption, Format(Text::DocumentNotFound, notes));
+}
+
+void TestUserControl1::theDescriptionFollowsTheStoredOption() {
+    Bench bench;
+    FakePane* references = bench.Add(PaneId::References);
+    const auto key =
+        SettingsKey::Open(SettingsKey::Hive::CurrentUser, QLatin1String(kExtReferencesKey));
+    const QString option = QStringLiteral("Show Description");
+    for (const quint32 value : {0u, 1u, 7u}) {
+        QVERIFY(key->SetNumber(option, value));
+        bench.shell.SetCurrentFunction(QStringLiteral("REF"));
+        QCOMPARE(references->calls.last().section(u' ', 1, 1), QString::number(value != 0));
+    }
+    QVERIFY(key->Delete(option));
+    bench.shell.SetCurrentFunction(QStringLiteral("REF"));
+    QCOMPARE(references->calls.last().section(u' ', 1, 1), QStringLiteral("1"));
+}
+
+void TestUserControl1::panesThatAreWorkedInGetTheFocus() {
+    Bench bench;
+    const std::pair<PaneId, const char*> focused[] = {
+        {PaneId::Properties, "SUMMARY"},  {PaneId::References, "REF"},
+        {PaneId::WhereUsed, "WHERE"},     {PaneId::Search, "SEARCH"},
+        {PaneId::Configurations, "EDIT"}, {PaneId::Hyperlinks, "LINK"},
+        {PaneId::Setup, "SETUP"}};
+    for (const auto& [id, code] : focused) {
+        FakePane* pane = bench.Add(id);
+        pane->setFocusPolicy(Qt::StrongFocus);
+        bench.shell.SetCurrentFunction(QLatin1String(code));
+        QCOMPARE(bench.shell.focusWidget(), pane);
+    }
+    const std::pair<PaneId, const char*> others[] = {
+        {PaneId::Preview, "PREVIEW"}, {PaneId::Rename, "RENAME"}, {PaneId::Copy, "COPY"}};
+    for (const auto& [id, code] : others) {
+        FakePane* pane = bench.Add(id);
+        pane->setFocusPolicy(Qt::StrongFocus);
+        bench.Tree()->setFocus();
+        bench.shell.SetCurrentFunction(QLatin1String(code));
+        QCOMPARE(bench.shell.focusWidget(), bench.Tree());
+    }
+}
+
+void TestUserControl1::thePathTellsWhetherTheDocumentIsInAWebFolder() {
+    Bench bench;
+    const QString address = QStringLiteral("http://server/a.tfmprt");
+    bench.Type(address);
+    QVERIFY(gWebDocument);
+    bench.Type(bench.top);
+    QVERIFY(!gWebDocument);
+    bench.PathBox()->setEditText(address);
+    Q_EMIT bench.PathBox()->textActivated(address);
+    QVERIFY(gWebDocument);
+    DropFiles(&bench.shell, {bench.top});
+    QVERIFY(!gWebDocument);
+    gWebDocument = true;
+    bench.dialogs.ExpectOpenFile(bench.top);
+    bench.shell.SetCurrentFunction(QStringLiteral("OPEN"));
+    QVERIFY(!gWebDocument);
+}
+
+void TestUserControl1::browsingLeavesAPaneThatWorksOnOneDocument() {
+    Bench bench;
+    FakePane* preview = bench.Add(PaneId::Preview);
+    bench.Add(PaneId::Rename);
+    bench.Open();
+    bench.shell.SetCurrentFunction(QStringLiteral("RENAME"));
+    bench.dialogs.ExpectOpenFile(bench.left);
+    bench.shell.SetCurrentFunction(QStringLiteral("OPEN"));
+    QCOMPARE(bench.shell.CurrentFunction(), QStringLiteral("PREVIEW"));
+    QVERIFY(!preview->isHidden());
+    QCOMPARE(preview->documents.last().path, bench.left);
+}
+
+void TestUserControl1::filesWinOverTextInADropOnTheTree() {
+    Bench bench;
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(bench.left)});
+    data.setText(bench.top);
+    Drop(bench.Tree()->viewport(), data);
+    QCOMPARE(bench.shell.m_partfilename, bench.left);
+    QMimeData prose;
+    prose.setText(QStringLiteral("no path"));
+    Drop(bench.Tree()->viewport(), prose);
+    QCOMPARE(bench.shell.m_partfilename, bench.left);
+}
+
+void TestUserControl1::theWheelOverThePathBoxOpensNothing() {
+    Bench bench;
+    bench.Type(bench.top);
+    bench.Type(bench.left);
+    QSignalSpy opened(&bench.shell, &UserControl1::DocumentOpened);
+    QWheelEvent wheel(QPointF(5, 5), bench.PathBox()->mapToGlobal(QPointF(5, 5)), QPoint(),
+                      QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(bench.PathBox(), &wheel);
+    QCOMPARE(opened.count(), 0);
+}
+
+void TestUserControl1::aLateUnlockOfMarkedNodes() {
+    Bench bench;
+    bench.Open();
+    bench.Click(3, Qt::LeftButton, Qt::ShiftModifier);
+    bench.Tree()->SelectNode(1);
+    bench.shell.SetCurrentFunction(QStringLiteral("LOCK"));
+    QVERIFY(bench.library.IsLocked(bench.top) && bench.library.IsLocked(bench.pin));
+    bench.shell.SetCurrentFunction(QStringLiteral("UNLOCK"));
+    QVERIFY(!bench.library.IsLocked(bench.top) && !bench.library.IsLocked(bench.pin));
+    bench.dialogs.ExpectOpenFile(QString());
+    bench.shell.SetCurrentFunction(QStringLiteral("OPEN"));  // ends marking, but not the marks
+    QVERIFY(!bench.shell.ShiftPressed);
+    QVERIFY(IsMarked(bench.shell.Tree(), 3));
+}
+
+void TestUserControl1::withoutASelectionLockingDoesNothing() {
+    Bench bench;
+    FakePane* editor = bench.Add(PaneId::Configurations);
+    for (const char* code : {"LOCK", "UNLOCK", "LOCKCHILDREN", "UNLOCKCHILDREN"})
+        bench.shell.SetCurrentFunction(QLatin1String(code));
+    QVERIFY(editor->calls.isEmpty());
 }
 
 void TestUserControl1::shiftClickMarksAndAPlainClickClears() {
@@ -688,7 +906,6 @@ void TestUserControl1::panesGetTheStatusLineOnlyWhileVisible() {
     Bench bench;
     FakePane* search = bench.Add(PaneId::Search);
     FakePane* properties = bench.Add(PaneId::Properties);
-    bench.shell.StatusBar(&bench.status);
     QCOMPARE(search->StatusBarControl(), &bench.status);
     QVERIFY(!properties->StatusBarControl());  // has no status of its own
     bench.shell.hide();

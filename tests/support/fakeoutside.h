@@ -1,0 +1,41 @@
+// The world outside the process for a test: no program runs, and what is asked for is written down.
+#pragma once
+
+#include <QStringList>
+
+#include "services/outsideobjects.h"
+#include "services/seams.h"
+#include "services/shellexecute.h"
+
+namespace docbench {
+
+class FakeOutside : public OutsideObjects {
+public:
+    FakeOutside() { gSeams.outside = this; }
+    ~FakeOutside() override { gSeams.outside = nullptr; }
+    std::unique_ptr<OutsideObject> Attach(const QString& programId) override {
+        asked.append(programId);
+        return nullptr;
+    }
+
+    QStringList asked;
+};
+
+class FakeShellExecute : public ShellExecute {
+public:
+    FakeShellExecute() { gSeams.shell = this; }
+    ~FakeShellExecute() override { gSeams.shell = nullptr; }
+    bool Execute(const QString&, const QString& file, const QString&, const QString&,
+                 int) override {
+        started.append(file);
+        return true;
+    }
+    bool StartProgram(const QString& program, const QStringList&) override {
+        started.append(program);
+        return true;
+    }
+
+    QStringList started;
+};
+
+}  // namespace docbench
