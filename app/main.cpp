@@ -62,7 +62,7 @@ int RunWindow(int argc, char* argv[], const CommandLine& line) {
                 result = WriteScreenshot(window, line.screenshot);
             if (!line.file.isEmpty() && !window.HasDocument())
                 result = kExitNoDocument;
-            QApplication::quit();
+            QApplication::exit();  // not quit(), which closes the window as the user does
         });
     }
     const int ended = QApplication::exec();

@@ -47,6 +47,16 @@ const std::vector<CommandGroup>& CommandGroups() {
     return groups;
 }
 
+bool IsFrameCommand(const QString& code) {
+    for (const CommandGroup& group : CommandGroups()) {
+        for (const CommandEntry& entry : group.entries) {
+            if (!entry.code.isEmpty() && entry.code == code)
+                return true;
+        }
+    }
+    return false;
+}
+
 const std::vector<BarEntry>& BarEntries() {
     static const std::vector<BarEntry> entries = {
         {Code("PVIW"), Text::Preview, Code("PREVIEW")},

@@ -3,6 +3,7 @@
 
 #include <QKeySequence>
 #include <QLatin1String>
+#include <QString>
 #include <vector>
 
 #include "services/texts.h"
@@ -24,6 +25,9 @@ struct CommandGroup {
 };
 
 const std::vector<CommandGroup>& CommandGroups();
+
+// Whether a code stands in one of the groups. Others don't reach the shell through the frame.
+bool IsFrameCommand(const QString& code);
 
 struct BarEntry {
     QLatin1String pictureKey;

@@ -57,6 +57,7 @@ Maincontrol::Maincontrol(QWidget* parent)
 Maincontrol::~Maincontrol() {
     if (gSeams.help && gSeams.help->IsOpen())
         gSeams.help->Close();
+    ui_->UserControl11->ReleasePanes();  // before the local copies that they may work on go away
     DeleteScratch();
 }
 
@@ -80,6 +81,8 @@ bool Maincontrol::eventFilter(QObject* watched, QEvent* event) {
 
 void Maincontrol::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
+    if (event->spontaneous())
+        return;  // the window is minimised or comes back, which is no show of the control
     ui_->UserControl11->StatusBar(ui_->StatusBar1);
     ui_->olbar1->setFocus();
     LayOutIconBar();
@@ -87,12 +90,15 @@ void Maincontrol::showEvent(QShowEvent* event) {
 
 void Maincontrol::hideEvent(QHideEvent* event) {
     QWidget::hideEvent(event);
+    if (event->spontaneous())
+        return;  // the window is minimised or comes back, which is no hide of the control
     ui_->UserControl11->StatusBar(nullptr);
 }
 
 // A click on itself, once, activates the window that a host has embedded the frame in.
 void Maincontrol::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
+    ui_->olbar1->setFocus(event->reason());  // the frame itself has nothing to type into
     if (std::exchange(hadFocus_, true))
         return;
     for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
@@ -107,11 +113,12 @@ void Maincontrol::RouteCommand(const QString& code) {
         return ShowHelp();
     if (code == QLatin1String("ABOUT"))  // there is no about box yet
         return showResult(code, QString(), QString());
-    ui_->UserControl11->SetCurrentFunction(code);
+    if (IsFrameCommand(code))
+        ui_->UserControl11->SetCurrentFunction(code);
 }
 
 void Maincontrol::ShowHelp() {
-    if (!FileExists(gHelpFile))
+    if (!gSeams.help || !gSeams.help->Has(gHelpFile))
         gHelpFile.replace(QLatin1String("Tessaforma Docbench"), QLatin1String("Tessaforma"));
     OpenDocumentExternally(QStringLiteral("Open"), gHelpFile, QStringLiteral("0"),
                            QStringLiteral("0"), 1);
@@ -166,6 +173,7 @@ void Maincontrol::MakeShortcuts(const CommandGroup& group) {
         if (action->shortcut().isEmpty())
             continue;
         auto* shortcut = new QShortcut(action->shortcut(), this);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);  // a host has keys of its own
         connect(shortcut, &QShortcut::activated, this, [this, popup, action, key = group.key] {
             if (key == kRename)
                 ApplyRenameRule(*popup);
@@ -178,6 +186,7 @@ void Maincontrol::FillIconBar() {
     for (const BarEntry& entry : BarEntries())
         ui_->olbar1->addItem(PictureOf(entry.pictureKey), Tr(entry.caption));
     ui_->olbar1->Redraw();
+    ui_->olbar1->setAccessibleName(Tr(Text::IconBarHeading));
 }
 
 // Without a document, replace and copy stay as they were, except that replace is on.

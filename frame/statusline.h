@@ -15,7 +15,9 @@ public:
     QString Caption() const { return currentMessage(); }
     void SetCaption(const QString& text) {
         showMessage(text);
-        setToolTip(text);  // a long path may not fit
+        // A long path may not fit. File names are no markup.
+        setToolTip(text.isEmpty() ? QString()
+                                  : QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped()));
     }
 };
 

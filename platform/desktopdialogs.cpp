@@ -56,10 +56,13 @@ Dialogs::Answer AnswerOf(int button) {
 // The window that a dialog stands before: the active one, else the first that is shown. Never one
 // that goes away when it is closed, since it would take the dialog with it.
 QWidget* Owner() {
-    QWidgetList windows{QApplication::activeWindow()};
+    QWidgetList windows{QApplication::activeModalWidget(), QApplication::activeWindow()};
     windows += QApplication::topLevelWidgets();
     for (QWidget* window : windows) {
-        if (window && window->isVisible() && !window->testAttribute(Qt::WA_DeleteOnClose))
+        const bool stays =
+            window && (window->windowType() == Qt::Window || window->windowType() == Qt::Dialog) &&
+            !window->testAttribute(Qt::WA_DeleteOnClose);
+        if (stays && window->isVisible())
             return window;
     }
     return nullptr;

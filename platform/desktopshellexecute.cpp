@@ -17,10 +17,10 @@ QString Given(const QString& text) {
 
 QUrl UrlOf(const QString& file) {
     const QUrl url(file, QUrl::TolerantMode);
-    const bool remote = url.scheme() == QLatin1String("http") ||
-                        url.scheme() == QLatin1String("https") ||
-                        url.scheme() == QLatin1String("mailto");
-    return remote ? url : QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath());
+    if (url.scheme().size() > 1)  // one letter is a drive
+        return url;
+    const QString local = QString(file).replace(u'\\', u'/');
+    return QUrl::fromLocalFile(QFileInfo(local).absoluteFilePath());
 }
 
 }  // namespace
@@ -36,7 +36,7 @@ bool DesktopShellExecute::Execute(const QString& verb, const QString& file,
                                 Given(folder)))
         return true;
     const QUrl url = UrlOf(file);
-    if (url.isLocalFile() && !info.exists())
+    if (url.isLocalFile() && !QFileInfo::exists(url.toLocalFile()))
         return false;
     return QDesktopServices::openUrl(url);
 }

@@ -45,10 +45,14 @@ HelpWindow::~HelpWindow() {
     delete window_;
 }
 
+bool HelpWindow::Has(const QString& helpFile) const {
+    return QFileInfo(PageOf(helpFile)).isFile();
+}
+
 void HelpWindow::Open(const QString& helpFile) {
-    const QString page = PageOf(helpFile);
-    if (!QFileInfo(page).isFile())
+    if (!Has(helpFile))
         return ReportMissing(helpFile);
+    const QString page = PageOf(helpFile);
     if (!window_)
         window_ = MakeWindow();
     window_->setSource(QUrl::fromLocalFile(QFileInfo(page).absoluteFilePath()),

@@ -15,6 +15,7 @@ class HelpWindow : public HelpViewer {
 public:
     ~HelpWindow() override;
 
+    bool Has(const QString& helpFile) const override;
     void Open(const QString& helpFile) override;
     bool IsOpen() const override;
     void Close() override;

@@ -14,14 +14,29 @@ public:
 
     virtual ~Dialogs() = default;
 
-    // Shows a message and waits for the answer. Closing the box answers Cancel where there is such a
-    // button, else No, else Ok.
+    // What closing a box without picking a button answers.
+    static Answer AnswerOfClosing(Buttons buttons) {
+        switch (buttons) {
+            case Buttons::OkCancel:
+            case Buttons::YesNoCancel:
+                return Answer::Cancel;
+            case Buttons::YesNo:
+                return Answer::No;
+            case Buttons::Ok:
+                break;
+        }
+        return Answer::Ok;
+    }
+
+    // Shows a message and waits for the answer. Closing the box answers Cancel where there is such
+    // a button, else No, else Ok.
     virtual Answer Box(const QString& text, Icon icon, const QString& title,
                        Buttons buttons = Buttons::Ok) = 0;
 
     // `filter` is in the form "Label|*.a;*.b|Label|*.c". Empty on cancel.
     virtual QString OpenFile(const QString& title, const QString& filter) = 0;
-    virtual QString BrowseFolder(const QString& title, const QString& start) = 0;  // empty on cancel
+    virtual QString BrowseFolder(const QString& title,
+                                 const QString& start) = 0;  // empty on cancel
 };
 
 }  // namespace docbench

@@ -29,8 +29,8 @@ QString FoldersOf(FolderSearcher& key, const QString& name) {
                              : folders;
 }
 
-// The text with every named list replaced. A name is replaced wherever it occurs, and what it
-// brings in is not looked through again.
+// The text with every named list replaced. A name is replaced wherever it occurs in the text as it
+// stands then, so also in what an earlier one has brought in.
 QString ResolveNames(const QString& text) {
     QString resolved = text;
     std::unique_ptr<FolderSearcher> key;

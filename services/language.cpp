@@ -5,6 +5,7 @@
 
 #include "services/dialogs.h"
 #include "services/documentlibrary.h"
+#include "services/errorstate.h"
 #include "services/localefont.h"
 #include "services/seams.h"
 #include "services/texts.h"
@@ -90,9 +91,9 @@ void LoadResources(const QString& programFolder) {
         return;
     try {
         Load(programFolder);
-    } catch (const DocumentError& error) {
+    } catch (const std::exception& error) {
         gSeams.dialogs->Box(
-            QStringLiteral("Failed to load resources, Error: ") + error.Description(),
+            QStringLiteral("Failed to load resources, Error: ") + DescriptionOf(error),
             Dialogs::Icon::Exclamation, gAppTitle);
     }
 }

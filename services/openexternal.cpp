@@ -91,10 +91,13 @@ bool IsHostedByCad() {
 
 void OpenDocumentExternally(const QString& verb, const QString& file, const QString& parameters,
                             const QString& folder, int showCommand) {
+    if (const std::optional<int> cadType = CadTypeOf(file)) {
+        ErrorState untold;  // what goes wrong with the CAD application is not reported here
+        untold.Run([&] { OpenDocument(file, *cadType); });
+        return;
+    }
     try {
-        if (const std::optional<int> cadType = CadTypeOf(file))
-            OpenDocument(file, *cadType);
-        else if (ExtensionOf(file).toUpper() == QLatin1String("CHM") && gSeams.help)
+        if (ExtensionOf(file).toUpper() == QLatin1String("CHM") && gSeams.help)
             gSeams.help->Open(file);
         else if (gSeams.shell)
             gSeams.shell->Execute(verb, file, parameters, folder, showCommand);

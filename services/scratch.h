@@ -12,7 +12,8 @@ extern QString gTempFolder;
 extern QString gTempBitmap;
 
 // What every control runs at its start: makes the temporary folder when there is none yet, and
-// clears away what is stale. Raises DocumentError when no folder can be made.
+// clears away what is stale. When none can be made the log says why, and gTempFolder names a folder
+// that is not there: whoever writes into it fails and tells the user.
 void PrepareScratch();
 
 // Deletes the local copies left in this process's folder, and the whole folders of processes that

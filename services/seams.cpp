@@ -1,7 +1,28 @@
 #include "services/seams.h"
 
+#include <QDebug>
+
+#include "services/dialogs.h"
+
 namespace docbench {
 
-Seams gSeams;
+namespace {
+
+// A host that sets no dialogs of its own has nobody who could answer: messages go to the log.
+class LoggedDialogs : public Dialogs {
+public:
+    Answer Box(const QString& text, Icon, const QString&, Buttons buttons) override {
+        qWarning().noquote() << text;
+        return AnswerOfClosing(buttons);
+    }
+    QString OpenFile(const QString&, const QString&) override { return {}; }
+    QString BrowseFolder(const QString&, const QString&) override { return {}; }
+};
+
+LoggedDialogs gLoggedDialogs;
+
+}  // namespace
+
+Seams gSeams{.dialogs = &gLoggedDialogs};
 
 }  // namespace docbench

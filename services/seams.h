@@ -9,9 +9,10 @@ class HelpViewer;
 class OutsideObjects;
 class ShellExecute;
 
-// Set once by the program (or the test) before the first control is made; owned by whoever sets them.
+// Set once by the program (or the test) before the first control is made; owned by whoever sets
+// them.
 struct Seams {
-    Dialogs* dialogs = nullptr;
+    Dialogs* dialogs = nullptr;           // until they are set, messages go to the log
     DocumentAccess* documents = nullptr;  // null when the document library could not be loaded
     HelpViewer* help = nullptr;
     OutsideObjects* outside = nullptr;

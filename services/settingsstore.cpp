@@ -28,6 +28,8 @@ public:
         waited.start();
         while (handle_ >= 0 && !held_ && !waited.hasExpired(kLongestWait)) {
             held_ = ::flock(handle_, LOCK_EX | LOCK_NB) == 0;
+            if (!held_ && errno != EWOULDBLOCK && errno != EINTR)
+                break;  // this disk has no locks
             if (!held_)
                 QThread::msleep(1);
         }

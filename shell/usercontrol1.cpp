@@ -55,14 +55,14 @@ UserControl1::UserControl1(QWidget* parent)
     ApplyLanguageFonts(*this);
     ConnectTree();
     ConnectWaysIn();
-    try {
-        PrepareScratch();
-    } catch (const DocumentError& error) {
-        gSeams.dialogs->Box(error.Description(), Dialogs::Icon::Exclamation, gAppTitle);
-    }
+    PrepareScratch();
 }
 
 UserControl1::~UserControl1() {
+    ReleasePanes();
+}
+
+void UserControl1::ReleasePanes() {
     for (const PaneId id : kPanesToRelease) {
         if (Pane* pane = PaneOf(id))
             pane->ReleaseAll();
@@ -243,11 +243,15 @@ void UserControl1::AddPane(PaneId id, Pane* pane) {
 
 void UserControl1::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
+    if (event->spontaneous())
+        return;  // the window is minimised or comes back, which is no show of the control
     PassStatusBar(statusBarTarget);
 }
 
 void UserControl1::hideEvent(QHideEvent* event) {
     QWidget::hideEvent(event);
+    if (event->spontaneous())
+        return;  // the window is minimised or comes back, which is no hide of the control
     PassStatusBar(nullptr);
 }
 

@@ -66,6 +66,8 @@ public:
     // Opens the document at a path or address as if it had been typed into the path box. Anything
     // that is no document is ignored.
     void OpenPath(const QString& path);
+    // Stops what panes are running, as the end of the control does.
+    void ReleasePanes();
     // Gives the pane for `id`, once, and takes it into the control.
     void AddPane(PaneId id, Pane* pane);
     QString CurrentTitle() const { return currentTitle; }

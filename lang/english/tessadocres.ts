@@ -166,7 +166,7 @@
     <message id="tessadocres-34">
         <source></source>
         <extracomment>CopyTargetWhat. What a folder is chosen for; goes into the title of the folder dialog.</extracomment>
-        <translation>target of the copies</translation>
+        <translation>for the copies</translation>
     </message>
     <message id="tessadocres-35">
         <source></source>
@@ -1026,7 +1026,7 @@
     <message id="tessadocres-214">
         <source></source>
         <extracomment>TargetUnchanged. Box when a new name or a replacement is refused.</extracomment>
-        <translation>The new name is the same as the old one.</translation>
+        <translation>This is the document itself. Choose another one.</translation>
     </message>
     <message id="tessadocres-216">
         <source></source>
@@ -1216,7 +1216,7 @@
     <message id="tessadocres-257">
         <source></source>
         <extracomment>FolderListWhat. What a folder is chosen for; goes into the title of the folder dialog.</extracomment>
-        <translation>folder for the list</translation>
+        <translation>for the folder list</translation>
     </message>
     <message id="tessadocres-258">
         <source></source>

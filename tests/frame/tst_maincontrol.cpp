@@ -7,6 +7,7 @@
 #include <QTest>
 #include <QToolButton>
 
+#include "frame/commandtable.h"
 #include "frame/maincontrol.h"
 #include "frame/olbar.h"
 #include "frame/statusline.h"
@@ -28,6 +29,7 @@ class FakeHelp : public HelpViewer {
 public:
     FakeHelp() { gSeams.help = this; }
     ~FakeHelp() override { gSeams.help = nullptr; }
+    bool Has(const QString& helpFile) const override { return QFile::exists(helpFile); }
     void Open(const QString& helpFile) override { opened.append(helpFile); }
     bool IsOpen() const override { return !opened.isEmpty() && closed == 0; }
     void Close() override { ++closed; }
@@ -66,6 +68,28 @@ struct Bench {
     Maincontrol frame;
 };
 
+// Hides and shows the frame as minimising and restoring its window do.
+void MinimiseAndRestore(QWidget& frame) {
+    QHideEvent hide;
+    QSpontaneKeyEvent::setSpontaneous(&hide);
+    qApp->notify(&frame, &hide);
+    QShowEvent show;
+    QSpontaneKeyEvent::setSpontaneous(&show);
+    qApp->notify(&frame, &show);
+}
+
+class ClickCounter : public QObject {
+public:
+    explicit ClickCounter(QWidget& watched) { watched.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        presses += event->type() == QEvent::MouseButtonPress;
+        releases += event->type() == QEvent::MouseButtonRelease;
+        return false;
+    }
+    int presses = 0;
+    int releases = 0;
+};
+
 }  // namespace
 
 class TestMaincontrol : public QObject {
@@ -87,6 +111,9 @@ private Q_SLOTS:
     void copyKeepsItsLastStateWithoutADocument();
     void aShortcutObeysTheEnablingRule();
     void commandsAreRoutedToTheShell();
+    void lockCommandsDoNotPassThroughTheFrame();
+    void minimisingKeepsTheStatusLineAndTheFocus();
+    void theFirstFocusClicksTheFrameOnce();
     void helpOpensTheHelpFile();
     void aMissingHelpFileFallsBackToTheShorterNameForGood();
     void releasingTheFrameChangesNothing();
@@ -260,6 +287,37 @@ void TestMaincontrol::commandsAreRoutedToTheShell() {
     bench.frame.showResult(QStringLiteral("EDIT"), QString(), QString());
     QCOMPARE(bench.Child<QLabel>(QStringLiteral("LabelInfo"))->text(), gStrings[131] + u' ');
     QCOMPARE(bench.Shell().CurrentFunction(), QStringLiteral("WHERE"));
+}
+
+void TestMaincontrol::lockCommandsDoNotPassThroughTheFrame() {
+    for (const char* code : {"LOCK", "UNLOCK", "LOCKCHILDREN", "UNLOCKCHILDREN", "NONSENSE", ""})
+        QVERIFY(!IsFrameCommand(QLatin1String(code)));
+    for (const char* code : {"OPEN", "OPENURL", "RENAME", "PREVIEW", "SETUP", "HELP", "ABOUT"})
+        QVERIFY(IsFrameCommand(QLatin1String(code)));
+}
+
+void TestMaincontrol::minimisingKeepsTheStatusLineAndTheFocus() {
+    Bench bench;
+    auto* path = bench.Child<QWidget>(QStringLiteral("filepathCombo"));
+    path->setFocus();
+    MinimiseAndRestore(bench.frame);
+    const QString missing = bench.library.Path(QStringLiteral("none.tfmprt"));
+    bench.Shell().OpenPath(missing);
+    QCOMPARE(bench.Child<StatusLine>(QStringLiteral("StatusBar1"))->Caption(),
+             Format(Text::DocumentNotFound, missing));
+    QCOMPARE(bench.frame.focusWidget(), path);
+}
+
+void TestMaincontrol::theFirstFocusClicksTheFrameOnce() {
+    Bench bench;
+    ClickCounter clicks(bench.frame);
+    for (int i = 0; i < 2; ++i) {
+        QFocusEvent focus(QEvent::FocusIn, Qt::TabFocusReason);
+        QCoreApplication::sendEvent(&bench.frame, &focus);
+        QCoreApplication::processEvents();
+    }
+    QCOMPARE(clicks.presses, 1);
+    QCOMPARE(clicks.releases, 1);
 }
 
 void TestMaincontrol::helpOpensTheHelpFile() {

@@ -62,6 +62,7 @@ public:
     bool StartProgram(const QString& program, const QStringList& arguments) override {
         return Note("start " + program + u' ' + arguments.join(u'|'));
     }
+    bool Has(const QString&) const override { return true; }
     void Open(const QString& helpFile) override { Note("help " + helpFile); }
     bool IsOpen() const override { return false; }
     void Close() override {}
