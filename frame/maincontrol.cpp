@@ -49,6 +49,8 @@ Maincontrol::Maincontrol(QWidget* parent)
         if (size_t(index) < BarEntries().size())
             RouteCommand(BarEntries()[size_t(index)].code);
     });
+    connect(ui_->olbar1, &olbar::ItemPicked, this, &Maincontrol::ShowIconBarItem);
+    connect(ui_->olbar1, &olbar::Measured, this, &Maincontrol::LayOutIconBar);
     connect(ui_->VScroll1, &QScrollBar::valueChanged, this, &Maincontrol::ScrollIconBar);
     ui_->Picture1->installEventFilter(this);
     setFocusPolicy(Qt::StrongFocus);
@@ -76,6 +78,8 @@ UserControl1& Maincontrol::Shell() {
 bool Maincontrol::eventFilter(QObject* watched, QEvent* event) {
     if (watched == ui_->Picture1 && event->type() == QEvent::Resize)
         LayOutIconBar();
+    if (watched == ui_->Picture1 && event->type() == QEvent::Wheel)
+        return QCoreApplication::sendEvent(ui_->VScroll1, event);
     return QWidget::eventFilter(watched, event);
 }
 
@@ -210,6 +214,12 @@ void Maincontrol::PopUp(const QToolButton& button, QMenu& menu) {
 void Maincontrol::ScrollIconBar(int value) {
     const QSize room = ui_->Picture1->size();
     ui_->olbar1->setGeometry(0, -value, room.width(), room.height() + value);
+}
+
+void Maincontrol::ShowIconBarItem(const QRect& item) {
+    const int shown = ui_->VScroll1->value();
+    const int lowest = item.bottom() + 1 - ui_->Picture1->height();
+    ui_->VScroll1->setValue(qMin(item.top(), qMax(shown, lowest)));
 }
 
 // The bar scrolls where the frame is too short for its items.

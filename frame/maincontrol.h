@@ -50,6 +50,7 @@ private:
     void ApplyRenameRule(QMenu& menu);
     void PopUp(const QToolButton& button, QMenu& menu);
     void ScrollIconBar(int value);
+    void ShowIconBarItem(const QRect& item);  // in the bar's pixels
     void LayOutIconBar();
 
     std::unique_ptr<Ui::Maincontrol> ui_;

@@ -1,5 +1,6 @@
 #include "frame/olbar.h"
 
+#include <QAccessible>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QToolButton>
@@ -68,6 +69,7 @@ void olbar::addItem(const QIcon& picture, const QString& text) {
     if (itemCount >= kItems)
         return;
     icons_[size_t(itemCount)] = picture;
+    Image1[size_t(itemCount)]->setAccessibleName(text);
     Label1[size_t(itemCount)]->setText(text);
     ++itemCount;
     ShowPictures();
@@ -100,6 +102,7 @@ void olbar::changeEvent(QEvent* event) {
         Measure();
         Layout();
         updateGeometry();
+        Q_EMIT Measured();
     }
 }
 
@@ -107,9 +110,9 @@ void olbar::changeEvent(QEvent* event) {
 void olbar::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
         case Qt::Key_Down:
-            return Hover(Check2->isHidden() ? hovered_ : qMin(hovered_ + 1, itemCount - 1));
+            return Pick(Check2->isHidden() ? hovered_ : qMin(hovered_ + 1, itemCount - 1));
         case Qt::Key_Up:
-            return Hover(Check2->isHidden() ? hovered_ : qMax(hovered_ - 1, 0));
+            return Pick(Check2->isHidden() ? hovered_ : qMax(hovered_ - 1, 0));
         case Qt::Key_Return:
         case Qt::Key_Enter:
         case Qt::Key_Space:
@@ -125,6 +128,13 @@ void olbar::keyPressEvent(QKeyEvent* event) {
 void olbar::mouseMoveEvent(QMouseEvent* event) {
     QWidget::mouseMoveEvent(event);
     Check2->hide();
+}
+
+// Who comes by the Tab key sees where the arrow keys start from.
+void olbar::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+        Pick(hovered_);
 }
 
 void olbar::focusOutEvent(QFocusEvent* event) {
@@ -177,6 +187,15 @@ void olbar::Hover(int index) {
     Check2->setChecked(false);
     Check2->show();
     Check2->raise();
+}
+
+void olbar::Pick(int index) {
+    if (index >= itemCount)
+        return;
+    Hover(index);
+    QAccessibleEvent focus(Check2, QAccessible::Focus);
+    QAccessible::updateAccessibility(&focus);
+    Q_EMIT ItemPicked(Image1[size_t(index)]->geometry() | Label1[size_t(index)]->geometry());
 }
 
 void olbar::Click() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QIcon>
+#include <QRect>
 #include <QWidget>
 #include <array>
 
@@ -25,13 +26,16 @@ public:
     int ContentHeight() const;  // pixels that all items take
 
 Q_SIGNALS:
-    void olBarClick(int index);  // an item was clicked; index from 0
+    void olBarClick(int index);          // an item was clicked; index from 0
+    void ItemPicked(const QRect& item);  // the keyboard went to the item that stands there
+    void Measured();                     // the items' heights may have changed
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -42,6 +46,7 @@ private:
     void Layout();
     void ShowPictures();
     void Hover(int index);
+    void Pick(int index);
     void Click();
 
     std::array<QLabel*, kItems> Image1;

@@ -7,6 +7,7 @@
 
 #include "cells/celllist.h"
 #include "services/docaccess.h"
+#include "services/errorstate.h"
 #include "services/paths.h"
 #include "services/seams.h"
 #include "services/settingsstore.h"
@@ -18,15 +19,38 @@ namespace {
 std::unique_ptr<FolderSearcher> OpenLists() {
     if (!gSeams.documents)
         return nullptr;
-    std::unique_ptr<FolderSearcher> key = gSeams.documents->MakeFolderSearcher();
-    const bool open = key && key->OpenRegistryKey(QLatin1String(kExtReferencesKey)) == 0;
+    std::unique_ptr<FolderSearcher> key;
+    bool open = false;
+    ErrorState().Run([&] {
+        key = gSeams.documents->MakeFolderSearcher();
+        open = key && key->OpenRegistryKey(QLatin1String(kExtReferencesKey)) == 0;
+    });
     return open ? std::move(key) : nullptr;
 }
 
+// Empty for a list that isn't there or can't be read.
 QString FoldersOf(FolderSearcher& key, const QString& name) {
-    const QString folders = key.GetRegistryValue(name);
-    return folders.isEmpty() ? key.GetRegistryValue(name + QLatin1String(kFolderListMarker))
-                             : folders;
+    QString folders;
+    ErrorState errors;
+    errors.Assign(folders, [&] { return key.GetRegistryValue(name); });
+    if (folders.isEmpty())
+        errors.Assign(
+            folders, [&] { return key.GetRegistryValue(name + QLatin1String(kFolderListMarker)); });
+    return folders;
+}
+
+std::vector<CellRow> ListRows(FolderSearcher& key) {
+    const QLatin1String marker(kFolderListMarker);
+    std::vector<CellRow> rows;
+    const int count = key.GetRegistryValueCount();
+    for (int i = 0; i < count; ++i) {
+        const QString name = key.EnumRegistryValue(i).first;
+        if (name.endsWith(marker))
+            rows.push_back({.cells = {{.text = name.chopped(marker.size())}, {.text = marker}}});
+        else if (name.contains(QLatin1String(kCadFolderList)))
+            rows.push_back({.cells = {{.text = name}, {.text = QString()}}});
+    }
+    return rows;
 }
 
 // The text with every named list replaced. A name is replaced wherever it occurs in the text as it
@@ -57,16 +81,8 @@ void RefreshFolderList(CellList& list) {
     const std::unique_ptr<FolderSearcher> key = OpenLists();
     if (!key)
         return;
-    const QLatin1String marker(kFolderListMarker);
     std::vector<CellRow> rows;
-    const int count = key->GetRegistryValueCount();
-    for (int i = 0; i < count; ++i) {
-        const QString name = key->EnumRegistryValue(i).first;
-        if (name.endsWith(marker))
-            rows.push_back({.cells = {{.text = name.chopped(marker.size())}, {.text = marker}}});
-        else if (name.contains(QLatin1String(kCadFolderList)))
-            rows.push_back({.cells = {{.text = name}, {.text = QString()}}});
-    }
+    ErrorState().Assign(rows, [&] { return ListRows(*key); });
     list.Append(std::move(rows));
 }
 

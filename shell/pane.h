@@ -30,7 +30,9 @@ public:
     virtual void ReleaseAll() {}  // stops a running search and frees what it holds
 
     // The object whose property "Caption" shows the pane's status; null for none.
-    void SetStatusBarControl(QObject* statusBarControl) { statusBarControl_ = statusBarControl; }
+    virtual void SetStatusBarControl(QObject* statusBarControl) {
+        statusBarControl_ = statusBarControl;
+    }
     QObject* StatusBarControl() const { return statusBarControl_; }
     void SetStatusText(const QString& text);
 

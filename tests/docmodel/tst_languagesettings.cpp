@@ -57,18 +57,20 @@ private Q_SLOTS:
         QTest::newRow("English") << "LC_ALL"
                                  << "en_US.UTF-8" << (QStringList("/lang/english") + plain);
         QTest::newRow("C") << "LC_ALL"
-                           << "C" << (QStringList("") + plain);
+                           << "C" << (QStringList("/lang/english") + plain);
         QTest::newRow("C.UTF-8") << "LC_ALL"
-                                 << "C.UTF-8" << (QStringList("") + plain);
+                                 << "C.UTF-8" << (QStringList("/lang/english") + plain);
         QTest::newRow("Taiwan") << "LC_ALL"
                                 << "zh_TW.UTF-8"
-                                << QStringList(
-                                       {"/lang/chinese", QString::fromUtf8("新細明體"), "9"});
+                                << QStringList({"/lang/chinese-traditional",
+                                                QString::fromUtf8("新細明體"), "9"});
         QTest::newRow("China") << "LC_ALL"
                                << "zh_CN.UTF-8"
-                               << QStringList({"/lang/chinese", QString::fromUtf8("宋体"), "9"});
-        QTest::newRow("Hong Kong") << "LC_ALL"
-                                   << "zh_HK.UTF-8" << (QStringList("/lang/chinese") + plain);
+                               << QStringList(
+                                      {"/lang/chinese-simplified", QString::fromUtf8("宋体"), "9"});
+        QTest::newRow("Hong Kong")
+            << "LC_ALL"
+            << "zh_HK.UTF-8" << (QStringList("/lang/chinese-traditional") + plain);
         QTest::newRow("Japan") << "LC_ALL"
                                << "ja_JP.UTF-8"
                                << QStringList({"/lang/japanese",

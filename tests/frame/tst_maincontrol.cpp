@@ -16,6 +16,8 @@
 #include "services/scratch.h"
 #include "services/seams.h"
 #include "services/texts.h"
+#include "shell/panetable.h"
+#include "shell/picturestore.h"
 #include "shell/usercontrol1.h"
 #include "tests/support/testdialogs.h"
 #include "tests/support/testenvironment.h"
@@ -120,6 +122,11 @@ private Q_SLOTS:
     void theStatusLineBelongsToTheShellWhileShown();
     void theIconBarHasTheFocusWhenShown();
     void aShortFrameScrollsItsIconBar();
+    void theIconBarScrollsToTheItemPickedByKey();
+    void theWheelScrollsTheIconBar();
+    void aLargerFontMakesTheIconBarLonger();
+    void theIconBarShowsThePictureOfEachCommand();
+    void everyDropDownEntryRunsItsCommand();
     void theEndClosesTheHelpWindowAndDeletesTheScratchFolder();
 };
 
@@ -378,6 +385,77 @@ void TestMaincontrol::aShortFrameScrollsItsIconBar() {
     scroll->setValue(40);
     QCOMPARE(bar->pos(), QPoint(0, -40));
     QCOMPARE(bar->height(), height + 40);
+}
+
+void TestMaincontrol::theIconBarScrollsToTheItemPickedByKey() {
+    Bench bench;
+    auto* bar = bench.Child<olbar>(QStringLiteral("olbar1"));
+    auto* scroll = bench.Child<QScrollBar>(QStringLiteral("VScroll1"));
+    bench.frame.resize(1024, 300);
+    for (int i = 0; i < 8; ++i)
+        QTest::keyClick(bar, Qt::Key_Down);
+    auto* last = bench.Child<QLabel>(QStringLiteral("Label1_7"));
+    const int bottom =
+        last->mapTo(bench.Child<QWidget>(QStringLiteral("Picture1")), QPoint(0, last->height()))
+            .y();
+    QVERIFY(scroll->value() > 0);
+    QVERIFY(bottom <= bench.Child<QWidget>(QStringLiteral("Picture1"))->height());
+    for (int i = 0; i < 8; ++i)
+        QTest::keyClick(bar, Qt::Key_Up);
+    QVERIFY(scroll->value() <= bench.Child<QLabel>(QStringLiteral("Image1_0"))->y());
+}
+
+void TestMaincontrol::theWheelScrollsTheIconBar() {
+    Bench bench;
+    auto* area = bench.Child<QWidget>(QStringLiteral("Picture1"));
+    auto* scroll = bench.Child<QScrollBar>(QStringLiteral("VScroll1"));
+    bench.frame.resize(1024, 300);
+    QCOMPARE(scroll->maximum(),
+             bench.Child<olbar>(QStringLiteral("olbar1"))->ContentHeight() - area->height());
+    QWheelEvent wheel(QPointF(5, 5), area->mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, -120),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(area, &wheel);
+    QVERIFY(scroll->value() > 0);
+}
+
+void TestMaincontrol::aLargerFontMakesTheIconBarLonger() {
+    Bench bench;
+    auto* bar = bench.Child<olbar>(QStringLiteral("olbar1"));
+    auto* scroll = bench.Child<QScrollBar>(QStringLiteral("VScroll1"));
+    bench.frame.resize(1024, 300);
+    const int before = scroll->maximum();
+    QFont font = bar->font();
+    font.setPointSize(font.pointSize() * 2);
+    bar->setFont(font);
+    QVERIFY(scroll->maximum() > before);
+}
+
+void TestMaincontrol::theIconBarShowsThePictureOfEachCommand() {
+    Bench bench;
+    const char* keys[] = {"PVIW", "PROP", "EREF", "WUSE", "PSRC", "ECON", "ELIK", "SETU"};
+    for (int i = 0; i < 8; ++i) {
+        auto* shown = bench.Child<QLabel>(QStringLiteral("Image1_%1").arg(i));
+        QCOMPARE(shown->pixmap(Qt::ReturnByValue).toImage(),
+                 PictureOf(QLatin1String(keys[i])).pixmap(QSize(32, 32), 1.0).toImage());
+    }
+}
+
+void TestMaincontrol::everyDropDownEntryRunsItsCommand() {
+    Bench bench;
+    for (const CommandGroup& group : CommandGroups()) {
+        for (QAction* action :
+             bench.Menu(qPrintable(QStringLiteral("dropDown_") + group.key))->actions()) {
+            const QString code = action->data().toString();
+            if (!FindPaneCommand(code))
+                continue;
+            action->setEnabled(true);
+            action->trigger();
+            QCOMPARE(bench.Shell().CurrentFunction(), code);
+        }
+    }
+    bench.dialogs.ExpectOpenFile(QString());
+    bench.Child<QAction>(QStringLiteral("dropDown_OPEN_1"))->trigger();
+    QVERIFY(bench.dialogs.AllCame());
 }
 
 void TestMaincontrol::theEndClosesTheHelpWindowAndDeletesTheScratchFolder() {

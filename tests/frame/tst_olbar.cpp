@@ -51,6 +51,8 @@ private Q_SLOTS:
     void leavingForTheBarHidesTheButton();
     void aClickTellsTheItem();
     void theKeyboardPicksAnItem();
+    void theTabKeyShowsWhereTheKeyboardIs();
+    void aPickByKeyTellsWhereTheItemStands();
     void aTooShortBarClipsItsItems();
 };
 
@@ -139,6 +141,24 @@ void TestOlbar::theKeyboardPicksAnItem() {
     QTest::keyClick(&bench.bar, Qt::Key_Space);
     QCOMPARE(clicks.count(), 1);
     QCOMPARE(clicks[0][0].toInt(), 1);
+}
+
+void TestOlbar::theTabKeyShowsWhereTheKeyboardIs() {
+    Bench bench(3);
+    QFocusEvent tab(QEvent::FocusIn, Qt::TabFocusReason);
+    QCoreApplication::sendEvent(&bench.bar, &tab);
+    QVERIFY(!bench.Check()->isHidden());
+    QCOMPARE(bench.Check()->accessibleName(), QStringLiteral("item 0"));
+    QCOMPARE(bench.Picture(2)->accessibleName(), QStringLiteral("item 2"));
+}
+
+void TestOlbar::aPickByKeyTellsWhereTheItemStands() {
+    Bench bench(3);
+    QSignalSpy picks(&bench.bar, &olbar::ItemPicked);
+    QTest::keyClick(&bench.bar, Qt::Key_Down);
+    QTest::keyClick(&bench.bar, Qt::Key_Down);
+    QCOMPARE(picks.count(), 2);
+    QCOMPARE(picks[1][0].toRect(), bench.Picture(1)->geometry() | bench.Caption(1)->geometry());
 }
 
 void TestOlbar::aTooShortBarClipsItsItems() {

@@ -35,6 +35,20 @@ private Q_SLOTS:
                       "/Tessaforma/TessaformaDocbench.ini");
     }
 
+    void ASettingsLibraryThatFailsGivesTheEmptyResult() {
+        Store(QStringLiteral("Parts TDB-Key"), QStringLiteral("/y"));
+        CellList list;
+        struct Failing : SettingsAccess {
+            std::unique_ptr<FolderSearcher> MakeFolderSearcher() override {
+                throw DocumentError(QStringLiteral("no settings"));
+            }
+        } access;
+        list.Append(Row({QStringLiteral("old"), QString()}));
+        RefreshFolderList(list);
+        QCOMPARE(list.Count(), 0);
+        QCOMPARE(ExpandFolderList(QStringLiteral(" Parts;/x")), QStringLiteral("/x"));
+    }
+
     void NamedListsAreExpanded_data() {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("expanded");

@@ -6,6 +6,7 @@
 #include "services/texts.h"
 #include "services/username.h"
 #include "shell/locking.h"
+#include "tests/support/failingaccess.h"
 #include "tests/support/filelockholder.h"
 #include "tests/support/testdialogs.h"
 #include "tests/support/testenvironment.h"
@@ -30,6 +31,7 @@ private Q_SLOTS:
     void aReadOnlyDocumentIsRefused();
     void aDocumentInUseIsRefused();
     void aMissingDocumentIsRefused();
+    void aSaveThatFailsLeavesStateAndPicture();
     void childrenAreLockedToAnyDepthButNotTheNodeItself();
     void markedNodesAreLockedAndStayMarked();
     void clearingTakesAwayAllMarks();
@@ -141,6 +143,23 @@ void TestLocking::aMissingDocumentIsRefused() {
     QVERIFY(QFile::remove(bolt_));
     dialogs.Expect(Format(Text::AccessRefused, bolt_));
     ApplyLock(tree, true, 4);
+}
+
+void TestLocking::aSaveThatFailsLeavesStateAndPicture() {
+    TestLibrary library;
+    TestDialogs dialogs;
+    ReferenceTree tree;
+    LoadSmallTree(library, tree);
+    const FailingAccess access([](const char* operation, const QString&) {
+        if (qstrcmp(operation, "Save") == 0)
+            throw DocumentError(QStringLiteral("The disk is full."));
+    });
+    dialogs.Expect(QStringLiteral("The disk is full."));
+    ApplyLock(tree, true, 4);
+    QVERIFY(dialogs.AllCame());
+    QVERIFY(!tree.currentLocked);
+    QCOMPARE(tree.Nodes().At(4).image, QStringLiteral("picPart"));
+    QVERIFY(!library.IsLocked(bolt_));
 }
 
 void TestLocking::childrenAreLockedToAnyDepthButNotTheNodeItself() {

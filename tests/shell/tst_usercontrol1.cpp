@@ -33,6 +33,7 @@ private Q_SLOTS:
     void theDescriptionFollowsTheStoredOption();
     void panesThatAreWorkedInGetTheFocus();
     void panesGetTheStatusLineOnlyWhileVisible();
+    void thePanesGetTheStatusLineInOrder();
     void thePanesThatMayRunAreReleasedInOrder();
     void theSavedPropertiesComeBack();
     void theSplitterKeepsItsMarginAndTurnsBlackWhileDragged();
@@ -239,6 +240,22 @@ void TestUserControl1::panesGetTheStatusLineOnlyWhileVisible() {
     QCOMPARE(search->StatusBarControl(), &bench.status);
     search->SetStatusText(QStringLiteral("shown"));
     QCOMPARE(bench.status.caption, QStringLiteral("shown"));
+}
+
+void TestUserControl1::thePanesGetTheStatusLineInOrder() {
+    Bench bench;
+    QStringList given;
+    const std::pair<PaneId, const char*> panes[] = {
+        {PaneId::Setup, "setup1"},           {PaneId::Copy, "copyRef1"},
+        {PaneId::Rename, "renameRef1"},      {PaneId::Search, "searchbox"},
+        {PaneId::References, "refbox"},      {PaneId::Hyperlinks, "HyperLinkbox"},
+        {PaneId::Configurations, "editbox"}, {PaneId::WhereUsed, "whereUsed1"}};
+    for (const auto& [id, name] : panes)
+        bench.Add(id, QLatin1String(name))->givenStatus = &given;
+    given.clear();
+    bench.shell.StatusBar(&bench.status);
+    QCOMPARE(given, QStringList({"whereUsed1", "editbox", "HyperLinkbox", "refbox", "searchbox",
+                                 "renameRef1", "copyRef1", "setup1"}));
 }
 
 void TestUserControl1::thePanesThatMayRunAreReleasedInOrder() {

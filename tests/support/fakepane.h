@@ -29,9 +29,16 @@ public:
             released->append(objectName());
     }
 
+    void SetStatusBarControl(QObject* statusBarControl) override {
+        Pane::SetStatusBarControl(statusBarControl);
+        if (givenStatus)
+            givenStatus->append(objectName());
+    }
+
     QStringList calls;
     QList<PaneDocument> documents;
-    QStringList* released = nullptr;
+    QStringList* released = nullptr;     // is told the pane's name at each ReleaseAll
+    QStringList* givenStatus = nullptr;  // and at each status line
 };
 
 // A status line that keeps what is written to it.
