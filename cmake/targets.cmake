@@ -32,7 +32,8 @@ target_precompile_headers(docbench_core PRIVATE <QtCore> <QtGui>)
 # take the objects, to reach the rest.
 add_library(docbench_controls_objects OBJECT)
 target_include_directories(docbench_controls_objects PUBLIC ${PROJECT_SOURCE_DIR})
-target_compile_definitions(docbench_controls_objects PRIVATE DOCBENCH_BUILDING_CONTROLS)
+target_compile_definitions(docbench_controls_objects PRIVATE
+    DOCBENCH_BUILDING_CONTROLS DOCBENCH_VERSION="${PROJECT_VERSION}")
 target_link_libraries(docbench_controls_objects
     PUBLIC docbench_core Qt6::Widgets Qt6::Svg)
 target_precompile_headers(docbench_controls_objects PRIVATE <QtWidgets>)

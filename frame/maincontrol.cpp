@@ -8,6 +8,7 @@
 #include <QToolButton>
 
 #include "frame/commandtable.h"
+#include "frame/frmabout.h"
 #include "frame/olbar.h"
 #include "frame/statusline.h"
 #include "services/helpviewer.h"
@@ -30,6 +31,7 @@ constexpr int kBelowButton = TwipsToPixels(25);  // between a toolbar button and
 
 const QString kRename = QStringLiteral("RENAME");
 const QString kReplace = QStringLiteral("REPLACE");
+const QString kHelpGroup = QStringLiteral("ABOUT");
 const QString kCopy = QStringLiteral("COPY");
 
 }  // namespace
@@ -115,8 +117,8 @@ void Maincontrol::focusInEvent(QFocusEvent* event) {
 void Maincontrol::RouteCommand(const QString& code) {
     if (code == QLatin1String("HELP"))
         return ShowHelp();
-    if (code == QLatin1String("ABOUT"))  // there is no about box yet
-        return showResult(code, QString(), QString());
+    if (code == QLatin1String("ABOUT"))
+        return void(frmAbout(this).exec());
     if (IsFrameCommand(code))
         ui_->UserControl11->SetCurrentFunction(code);
 }
@@ -181,7 +183,10 @@ void Maincontrol::MakeShortcuts(const CommandGroup& group) {
         connect(shortcut, &QShortcut::activated, this, [this, popup, action, key = group.key] {
             if (key == kRename)
                 ApplyRenameRule(*popup);
-            action->trigger();
+            if (key == kHelpGroup)  // by key, help is about what is on screen
+                ui_->UserControl11->ShowHelpTopic();
+            else
+                action->trigger();
         });
     }
 }

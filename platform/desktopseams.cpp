@@ -1,6 +1,6 @@
 #include "platform/desktopseams.h"
 
-#include "platform/dbusoutsideobjects.h"
+#include "platform/desktopoutsideobjects.h"
 #include "platform/desktopdialogs.h"
 #include "platform/desktopshellexecute.h"
 #include "platform/helpwindow.h"
@@ -12,7 +12,7 @@ struct DesktopSeams::Parts {
     DesktopDialogs dialogs;
     DocumentLibrary library;
     HelpWindow help;
-    DBusOutsideObjects outside;
+    DesktopOutsideObjects outside;
     DesktopShellExecute shell;
 };
 

@@ -35,6 +35,10 @@ bool DesktopShellExecute::Execute(const QString& verb, const QString& file,
         QProcess::startDetached(info.absoluteFilePath(), QProcess::splitCommand(Given(parameters)),
                                 Given(folder)))
         return true;
+    // A program of another system that is given an address is the web browser.
+    const QUrl address(Given(parameters));
+    if (opens && !info.exists() && address.scheme().startsWith(QLatin1String("http")))
+        return QDesktopServices::openUrl(address);
     const QUrl url = UrlOf(file);
     if (url.isLocalFile() && !QFileInfo::exists(url.toLocalFile()))
         return false;

@@ -1,9 +1,8 @@
 #include "platform/helpwindow.h"
 
 #include <QFileInfo>
-#include <QTextBrowser>
-#include <QUrl>
 
+#include "platform/helpbrowser.h"
 #include "services/dialogs.h"
 #include "services/language.h"
 #include "services/seams.h"
@@ -11,15 +10,14 @@
 namespace docbench {
 namespace {
 
-constexpr int kWidth = 820;
-constexpr int kHeight = 640;
-
-// The pages of a help file that is known by the name of its compiled form stand beside it.
-QString PageOf(const QString& helpFile) {
+QString FolderOfPages(const QString& helpFile) {
     const QFileInfo info(helpFile);
-    const QString page = info.path() + u'/' + info.completeBaseName() + QStringLiteral(".html");
     const bool compiled = info.suffix().compare(QLatin1String("chm"), Qt::CaseInsensitive) == 0;
-    return compiled && QFileInfo(page).isFile() ? page : helpFile;
+    return compiled ? info.path() + QStringLiteral("/help") : info.path();
+}
+
+bool IsCompiled(const QString& helpFile) {
+    return FolderOfPages(helpFile) != QFileInfo(helpFile).path();
 }
 
 void ReportMissing(const QString& helpFile) {
@@ -29,16 +27,6 @@ void ReportMissing(const QString& helpFile) {
                         Dialogs::Icon::Exclamation, gAppTitle);
 }
 
-QTextBrowser* MakeWindow() {
-    auto* browser = new QTextBrowser;
-    browser->setObjectName(QStringLiteral("HelpWindow"));
-    browser->setAttribute(Qt::WA_DeleteOnClose);
-    browser->setAttribute(Qt::WA_QuitOnClose, false);  // it ends with the program, not the reverse
-    browser->setOpenExternalLinks(true);
-    browser->resize(kWidth, kHeight);
-    return browser;
-}
-
 }  // namespace
 
 HelpWindow::~HelpWindow() {
@@ -46,19 +34,22 @@ HelpWindow::~HelpWindow() {
 }
 
 bool HelpWindow::Has(const QString& helpFile) const {
-    return QFileInfo(PageOf(helpFile)).isFile();
+    return QFileInfo(IsCompiled(helpFile)
+                         ? FolderOfPages(helpFile) + QStringLiteral("/contents.html")
+                         : helpFile)
+        .isFile();
 }
 
-void HelpWindow::Open(const QString& helpFile) {
+void HelpWindow::Open(const QString& helpFile, const QString& topic) {
     if (!Has(helpFile))
         return ReportMissing(helpFile);
-    const QString page = PageOf(helpFile);
+    HelpPages pages(FolderOfPages(helpFile));
+    const QString page =
+        IsCompiled(helpFile) ? pages.PageOf(topic) : QFileInfo(helpFile).absoluteFilePath();
     if (!window_)
-        window_ = MakeWindow();
-    window_->setSource(QUrl::fromLocalFile(QFileInfo(page).absoluteFilePath()),
-                       QTextDocument::HtmlResource);
-    const QString title = window_->documentTitle();
-    window_->setWindowTitle(title.isEmpty() ? QFileInfo(page).completeBaseName() : title);
+        window_ = new HelpBrowser;
+    window_->SetPages(std::move(pages));
+    window_->ShowPage(page);
     window_->show();
     window_->raise();
     window_->activateWindow();

@@ -1,4 +1,4 @@
-// The help window: pages of HTML in a window of their own.
+// The help window: the shipped pages with their contents and a search.
 #pragma once
 
 #include <QPointer>
@@ -6,22 +6,24 @@
 
 #include "services/helpviewer.h"
 
-class QTextBrowser;
-
 namespace docbench {
+
+class HelpBrowser;
 
 // The window is made at its first use and again after it was closed.
 class HelpWindow : public HelpViewer {
 public:
     ~HelpWindow() override;
 
+    // A help file known by the name of its compiled form ("TFDocbench.chm") stands for the pages in
+    // the folder "help" beside it; any other is a page itself.
     bool Has(const QString& helpFile) const override;
-    void Open(const QString& helpFile) override;
+    void Open(const QString& helpFile, const QString& topic = {}) override;
     bool IsOpen() const override;
     void Close() override;
 
 private:
-    QPointer<QTextBrowser> window_;
+    QPointer<HelpBrowser> window_;
 };
 
 }  // namespace docbench

@@ -1,13 +1,14 @@
 // Things outside the process that are known by a program id; absent is normal.
 #pragma once
 
+#include <QObject>
 #include <QString>
 #include <QVariantList>
 #include <memory>
 
 namespace docbench {
 
-// A running program under its program id, driven by method and property names.
+// A program under its program id, driven by method and property names.
 class OutsideObject {
 public:
     virtual ~OutsideObject() = default;
@@ -21,6 +22,9 @@ public:
     virtual ~OutsideObjects() = default;
     // The running program registered under the id, or null. Never starts one.
     virtual std::unique_ptr<OutsideObject> Attach(const QString& programId) = 0;
+    // A new object of the component (a plug-in) known under the id, driven by the names of its
+    // properties and invokable methods; null when there is none or it can't be made.
+    virtual std::unique_ptr<QObject> Create(const QString& programId) = 0;
 };
 
 }  // namespace docbench

@@ -5,6 +5,7 @@
 #include "cells/celltree.h"
 #include "services/dialogs.h"
 #include "services/docaccess.h"
+#include "services/helpviewer.h"
 #include "services/language.h"
 #include "services/openexternal.h"
 #include "services/paths.h"
@@ -18,6 +19,7 @@
 #include "shell/pane.h"
 #include "shell/pathdrop.h"
 #include "shell/picturestore.h"
+#include "shell/previewpane.h"
 #include "shell/referencetree.h"
 #include "shell/waitcursor.h"
 #include "ui_usercontrol1.h"
@@ -56,6 +58,7 @@ UserControl1::UserControl1(QWidget* parent)
     ConnectTree();
     ConnectWaysIn();
     PrepareScratch();
+    AddPane(PaneId::Preview, new PreviewPane);
 }
 
 UserControl1::~UserControl1() {
@@ -232,7 +235,15 @@ void UserControl1::OpenPath(const QString& path) {
     OpenAndList(path);
 }
 
+void UserControl1::ShowHelpTopic() {
+    const PaneCommand* command = FindPaneCommand(currentFunction_);
+    const Pane* pane = command ? PaneOf(command->pane) : nullptr;
+    if (gSeams.help)
+        gSeams.help->Open(gHelpFile, pane ? pane->HelpTopic() : QString());
+}
+
 void UserControl1::AddPane(PaneId id, Pane* pane) {
+    delete PaneOf(id);
     panes_[size_t(id)] = pane;
     pane->setParent(ui_->paneArea);
     ui_->paneLayout->addWidget(pane, 1);
@@ -261,6 +272,10 @@ bool UserControl1::ShowDesc() const {
 }
 
 void UserControl1::OpenDocument(const QString& path) {
+    for (Pane* pane : panes_) {
+        if (pane)
+            pane->ForgetDocuments();
+    }
     LoadTree(path);
     showResult(currentFunction_, m_partfilename, currentTitle);
 }

@@ -68,8 +68,10 @@ public:
     void OpenPath(const QString& path);
     // Stops what panes are running, as the end of the control does.
     void ReleasePanes();
-    // Gives the pane for `id`, once, and takes it into the control.
+    // Takes the pane for `id` into the control, in place of the one that it had.
     void AddPane(PaneId id, Pane* pane);
+    // Opens the help window on the page of the pane on screen.
+    void ShowHelpTopic();
     QString CurrentTitle() const { return currentTitle; }
     ReferenceTree& Tree() { return *tree_; }
 

@@ -32,11 +32,15 @@ public:
     FakeHelp() { gSeams.help = this; }
     ~FakeHelp() override { gSeams.help = nullptr; }
     bool Has(const QString& helpFile) const override { return QFile::exists(helpFile); }
-    void Open(const QString& helpFile) override { opened.append(helpFile); }
+    void Open(const QString& helpFile, const QString& topic) override {
+        opened.append(helpFile);
+        topics.append(topic);
+    }
     bool IsOpen() const override { return !opened.isEmpty() && closed == 0; }
     void Close() override { ++closed; }
 
     QStringList opened;
+    QStringList topics;
     int closed = 0;
 };
 
@@ -118,6 +122,8 @@ private Q_SLOTS:
     void theFirstFocusClicksTheFrameOnce();
     void helpOpensTheHelpFile();
     void aMissingHelpFileFallsBackToTheShorterNameForGood();
+    void theHelpKeyOpensThePageOfThePane();
+    void aboutShowsTheAboutBox();
     void releasingTheFrameChangesNothing();
     void theStatusLineBelongsToTheShellWhileShown();
     void theIconBarHasTheFocusWhenShown();
@@ -344,6 +350,29 @@ void TestMaincontrol::aMissingHelpFileFallsBackToTheShorterNameForGood() {
     bench.Child<QAction>(QStringLiteral("menuhelp_1"))->trigger();
     QCOMPARE(bench.help.opened, QStringList{QStringLiteral("/nowhere/Tessaforma/TFDocbench.chm")});
     QCOMPARE(gHelpFile, QStringLiteral("/nowhere/Tessaforma/TFDocbench.chm"));
+}
+
+void TestMaincontrol::theHelpKeyOpensThePageOfThePane() {
+    Bench bench;
+    bench.frame.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&bench.frame));
+    QTest::keyClick(&bench.frame, Qt::Key_F1);
+    QCOMPARE(bench.help.opened, QStringList{gHelpFile});
+    QCOMPARE(bench.help.topics, QStringList{QStringLiteral("preview")});
+}
+
+void TestMaincontrol::aboutShowsTheAboutBox() {
+    Bench bench;
+    bool shown = false;
+    QTimer::singleShot(0, [&] {
+        QWidget* box = QApplication::activeModalWidget();
+        shown = box && box->objectName() == QLatin1String("frmAbout");
+        if (box)
+            box->close();
+    });
+    bench.Child<QAction>(QStringLiteral("menuhelp_2"))->trigger();
+    QVERIFY(shown);
+    QCOMPARE(bench.Shell().CurrentFunction(), QStringLiteral("PREVIEW"));
 }
 
 void TestMaincontrol::releasingTheFrameChangesNothing() {

@@ -4,7 +4,7 @@
 #include <QThread>
 #include <memory>
 
-#include "platform/dbusoutsideobjects.h"
+#include "platform/desktopoutsideobjects.h"
 #include "platform/desktopshellexecute.h"
 #include "services/openexternal.h"
 #include "services/seams.h"
@@ -171,7 +171,7 @@ private Q_SLOTS:
 
 private:
     std::unique_ptr<PrivateBus> bus_;
-    DBusOutsideObjects outside_;
+    DesktopOutsideObjects outside_;
     DesktopShellExecute shell_;
 };
 

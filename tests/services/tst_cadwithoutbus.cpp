@@ -1,7 +1,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "platform/dbusoutsideobjects.h"
+#include "platform/desktopoutsideobjects.h"
 #include "platform/desktopshellexecute.h"
 #include "services/openexternal.h"
 #include "services/seams.h"
@@ -45,7 +45,7 @@ private Q_SLOTS:
     }
 
 private:
-    DBusOutsideObjects outside_;
+    DesktopOutsideObjects outside_;
     DesktopShellExecute shell_;
 };
 

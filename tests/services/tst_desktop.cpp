@@ -5,7 +5,6 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTextBrowser>
 #include <QTimer>
 #include <QUrl>
 
@@ -13,7 +12,6 @@
 #include "platform/desktopseams.h"
 #include "platform/desktopshellexecute.h"
 #include "platform/filefilter.h"
-#include "platform/helpwindow.h"
 #include "tests/services/argumentscript.h"
 #include "tests/support/testdialogs.h"
 #include "tests/support/testenvironment.h"
@@ -21,24 +19,6 @@
 using namespace docbench;
 using Buttons = Dialogs::Buttons;
 using Answer = Dialogs::Answer;
-
-namespace {
-
-void WritePage(const QString& path, const QByteArray& html) {
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(html);
-}
-
-QTextBrowser* ShownHelp() {
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (widget->objectName() == "HelpWindow" && widget->isVisible())
-            return qobject_cast<QTextBrowser*>(widget);
-    }
-    return nullptr;
-}
-
-}  // namespace
 
 class tst_Desktop : public QObject {
     Q_OBJECT
@@ -118,7 +98,7 @@ private Q_SLOTS:
     void AFileIsOpenedByTheDesktop() {
         const QTemporaryDir folder;
         const QString file = folder.filePath("a list #1.xlsx");
-        WritePage(file, "x");
+        QVERIFY(QFile(file).open(QIODevice::WriteOnly));
         QDesktopServices::setUrlHandler("file", this, "NoteUrl");
         QDesktopServices::setUrlHandler("http", this, "NoteUrl");
         DesktopShellExecute shell;
@@ -130,56 +110,18 @@ private Q_SLOTS:
         QDesktopServices::unsetUrlHandler("http");
     }
 
+    void TheBrowserOfAnotherSystemIsTheDesktopsOwn() {
+        QDesktopServices::setUrlHandler("https", this, "NoteUrl");
+        DesktopShellExecute shell;
+        QVERIFY(shell.Execute("Open", "iexplore.exe", "https://vendor.example/", "0", 1));
+        QCOMPARE(opened_, QUrl("https://vendor.example/"));
+        QDesktopServices::unsetUrlHandler("https");
+    }
+
     void WhatIsNotThereCantBeOpened() {
         DesktopShellExecute shell;
         QVERIFY(!shell.Execute("Open", "/nowhere/a.xlsx", "0", "0", 1));
         QVERIFY(!shell.StartProgram("/nowhere/program", {"a"}));
-    }
-
-    void TheHelpWindowShowsThePageUnderItsTitle() {
-        const QTemporaryDir folder;
-        WritePage(folder.filePath("help.html"), "<title>Using it</title><p>Welcome</p>");
-        HelpWindow help;
-        QVERIFY(!help.IsOpen());
-        help.Open(folder.filePath("help.html"));
-        QVERIFY(help.IsOpen());
-        QTextBrowser* window = ShownHelp();
-        QVERIFY(window);
-        QCOMPARE(window->windowTitle(), QString("Using it"));
-        QCOMPARE(window->toPlainText(), QString("Welcome"));
-        help.Open(folder.filePath("help.html"));
-        QCOMPARE(ShownHelp(), window);
-    }
-
-    void TheHelpWindowOpensAgainAfterItWasClosed() {
-        const QTemporaryDir folder;
-        WritePage(folder.filePath("help.html"), "<p>Welcome</p>");
-        HelpWindow help;
-        help.Close();
-        for (int time = 0; time < 2; ++time) {
-            help.Open(folder.filePath("help.html"));
-            QVERIFY(help.IsOpen());
-            help.Close();
-            QVERIFY(!help.IsOpen());
-        }
-    }
-
-    void ACompiledHelpFilesPagesStandBesideIt() {
-        const QTemporaryDir folder;
-        WritePage(folder.filePath("TFDocbench.html"), "<p>Welcome</p>");
-        HelpWindow help;
-        help.Open(folder.filePath("TFDocbench.chm"));
-        QVERIFY(help.IsOpen());
-        QCOMPARE(ShownHelp()->toPlainText(), QString("Welcome"));
-    }
-
-    void AMissingHelpFileIsReported() {
-        TestDialogs dialogs;
-        dialogs.Expect("The help file /nowhere/TFDocbench.chm can't be found.*");
-        HelpWindow help;
-        help.Open("/nowhere/TFDocbench.chm");
-        QVERIFY(dialogs.AllCame());
-        QVERIFY(!help.IsOpen());
     }
 
     void TheSeamsAreThereForTheLifeOfTheirOwner() {

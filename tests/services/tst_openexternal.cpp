@@ -49,6 +49,7 @@ public:
     }
     ~Recorder() override { gSeams = Seams(); }
 
+    std::unique_ptr<QObject> Create(const QString&) override { return nullptr; }
     std::unique_ptr<OutsideObject> Attach(const QString& programId) override {
         Note("attach " + programId);
         return cadRuns ? std::make_unique<Cad>(*this) : nullptr;
@@ -63,7 +64,7 @@ public:
         return Note("start " + program + u' ' + arguments.join(u'|'));
     }
     bool Has(const QString&) const override { return true; }
-    void Open(const QString& helpFile) override { Note("help " + helpFile); }
+    void Open(const QString& helpFile, const QString&) override { Note("help " + helpFile); }
     bool IsOpen() const override { return false; }
     void Close() override {}
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QStringList>
+#include <functional>
 
 #include "services/outsideobjects.h"
 #include "services/seams.h"
@@ -17,8 +18,14 @@ public:
         asked.append(programId);
         return nullptr;
     }
+    std::unique_ptr<QObject> Create(const QString& programId) override {
+        created.append(programId);
+        return make ? make(programId) : nullptr;
+    }
 
-    QStringList asked;
+    QStringList asked;    // ids of programs
+    QStringList created;  // ids of components
+    std::function<std::unique_ptr<QObject>(const QString&)> make;
 };
 
 class FakeShellExecute : public ShellExecute {

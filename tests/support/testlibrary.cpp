@@ -51,6 +51,12 @@ void TestLibrary::LockReferences(const QString& path) {
     document.Save();
 }
 
+void TestLibrary::SetPreview(const QString& path, const QByteArray& picture) {
+    DocumentBuilder document = DocumentBuilder::Edit(path);
+    document.SetPreview(picture);
+    document.Save();
+}
+
 void TestLibrary::Lock(const QString& path, const QString& user) {
     DocumentBuilder document = DocumentBuilder::Edit(path);
     document.SetLockedBy(user);

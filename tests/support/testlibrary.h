@@ -32,6 +32,7 @@ public:
                  const QList<External>& externals = {});
     QString MakeBroken(const QString& name);  // a file that is no package
     void LockReferences(const QString& path);
+    void SetPreview(const QString& path, const QByteArray& picture);
     // Reserves the document in the lock record.
     void Lock(const QString& path, const QString& user);
     bool IsLocked(const QString& path) const;

@@ -1,4 +1,4 @@
-#include "platform/dbusoutsideobjects.h"
+#include "platform/desktopoutsideobjects.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
@@ -6,6 +6,8 @@
 #include <QDBusMessage>
 #include <QDBusReply>
 #include <QDBusVariant>
+
+#include "platform/componentplugins.h"
 
 namespace docbench {
 namespace {
@@ -59,12 +61,16 @@ bool IsRunning(const QDBusConnection& bus, const QString& programId) {
 
 }  // namespace
 
-std::unique_ptr<OutsideObject> DBusOutsideObjects::Attach(const QString& programId) {
+std::unique_ptr<OutsideObject> DesktopOutsideObjects::Attach(const QString& programId) {
     // The connection is shared by the process and made by the first who asks for it.
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected() || !IsRunning(bus, programId))
         return nullptr;
     return std::make_unique<DBusOutsideObject>(bus, programId);
+}
+
+std::unique_ptr<QObject> DesktopOutsideObjects::Create(const QString& programId) {
+    return CreateComponent(ComponentFolder(), programId);
 }
 
 }  // namespace docbench
