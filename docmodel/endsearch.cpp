@@ -101,13 +101,18 @@ std::optional<EndSearch::State> EndSearch::StateAt(quint64 position) {
     const quint64 commentOffset = position + zip::kEndBytes;
     const quint64 commentLength = zip::Get16(window_ + (position - windowOffset_) + 20);
     state.stateEnd = commentOffset + commentLength;
-    if (commentLength != zip::kCommentLength)
+    // Looked for whatever the length says, which is among what the checksum protects.
+    if (fileSize_ - commentOffset < zip::kCommentLength)
         return state;
-    const uchar* comment = Fetch(commentOffset, commentLength);
+    const uchar* comment = Fetch(commentOffset, zip::kCommentLength);
     if (!comment)
         return std::nullopt;
-    const auto ours = zip::ReadComment(QByteArrayView(comment, qsizetype(commentLength)));
-    if (ours && !ChecksumFits(position, state.end.directoryOffset, *ours))
+    const auto ours = zip::ReadComment(QByteArrayView(comment, zip::kCommentLength));
+    // A program that changed the package has carried our comment over, to another place: this is
+    // its record, the newer one.
+    if (!ours || ours->position != position)
+        return state;
+    if (!ChecksumFits(position, state.end.directoryOffset, *ours))
         return std::nullopt;
     return state;
 }

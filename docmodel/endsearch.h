@@ -10,7 +10,7 @@
 namespace docmodel {
 
 // An end record is that of a whole state if its directory ends exactly at it, by offsets from the
-// begin of the file, and if the checksum in its comment, when it has one, fits.
+// begin of the file, and if the checksum in its comment, when it has one of its own, fits.
 class EndSearch {
 public:
     EndSearch(int file, quint64 fileSize, const QString& path)

@@ -66,7 +66,8 @@ QByteArray LocalHeader(const EncodedPart& part) {
 
 void AppendChecked(QByteArray& last, quint64 lastOffset, const zip::EndRecord& end) {
     zip::AppendEnd(last, end, zip::kCommentLength);
-    last += zip::CommentUpToCrc(lastOffset);
+    const quint64 position = lastOffset + quint64(last.size()) - zip::kEndBytes;
+    last += zip::CommentUpToCrc(lastOffset, position);
     const uLong crc =
         crc32_z(0, reinterpret_cast<const uchar*>(last.constData()), size_t(last.size()));
     last += zip::CommentCrc(quint32(crc));

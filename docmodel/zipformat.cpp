@@ -16,7 +16,9 @@ constexpr quint16 kZip64Field = 0x0001;
 constexpr quint32 kIn64 = 0xFFFFFFFF;  // stands where the value is in the ZIP64 field
 constexpr quint16 kCountIn64 = 0xFFFF;
 constexpr char kCommentHead[] = "docmodel 1 ";
-constexpr qsizetype kCommentHeadLength = sizeof kCommentHead - 1;
+constexpr qsizetype kStartOffset = sizeof kCommentHead - 1;
+constexpr qsizetype kPositionOffset = kStartOffset + 17;
+static_assert(kCommentCrcOffset == kPositionOffset + 17);
 
 template <typename Number>
 void Append(QByteArray& to, Number value) {
@@ -233,17 +235,19 @@ void AppendEnd(QByteArray& to, const EndRecord& end, quint16 commentLength) {
 std::optional<CommitComment> ReadComment(QByteArrayView comment) {
     CommitComment read;
     if (comment.size() != kCommentLength || !comment.startsWith(kCommentHead) ||
-        comment[kCommentCrcOffset - 1] != ' ' ||
-        !ReadHex(comment.data() + kCommentHeadLength, 16, read.start) ||
+        comment[kPositionOffset - 1] != ' ' || comment[kCommentCrcOffset - 1] != ' ' ||
+        !ReadHex(comment.data() + kStartOffset, 16, read.start) ||
+        !ReadHex(comment.data() + kPositionOffset, 16, read.position) ||
         !ReadHex(comment.data() + kCommentCrcOffset, 8, read.crc))
         return std::nullopt;
     return read;
 }
 
-QByteArray CommentUpToCrc(quint64 start) {
+QByteArray CommentUpToCrc(quint64 start, quint64 position) {
     char text[kCommentLength + 1];
-    std::snprintf(text, sizeof text, "%s%016llx ", kCommentHead,
-                  static_cast<unsigned long long>(start));
+    std::snprintf(text, sizeof text, "%s%016llx %016llx ", kCommentHead,
+                  static_cast<unsigned long long>(start),
+                  static_cast<unsigned long long>(position));
     return text;
 }
 

@@ -94,17 +94,20 @@ quint64 EndLength(const EndRecord& end);
 // Appends the records with the length of a comment, which the caller appends.
 void AppendEnd(QByteArray& to, const EndRecord& end, quint16 commentLength);
 
-// The comment that an append leaves in the end record: "docmodel 1 START CRC", where START is the
-// offset at which the appended bytes begin (16 hexadecimal digits) and CRC (8 digits) the checksum
-// of all bytes from there up to its own first digit.
-inline constexpr quint16 kCommentLength = 36;
-inline constexpr quint64 kCommentCrcOffset = 28;
+// The comment that an append leaves in the end record: "docmodel 1 START POSITION CRC", where START
+// is the offset at which the appended bytes begin (16 hexadecimal digits), POSITION that of the end
+// record itself (16 digits), and CRC (8 digits) the checksum of all bytes from START up to its own
+// first digit. Other programs carry the comment over to the end records that they write; these
+// stand elsewhere, and what it says is not about them.
+inline constexpr quint16 kCommentLength = 53;
+inline constexpr quint64 kCommentCrcOffset = 45;
 struct CommitComment {
     quint64 start = 0;
+    quint64 position = 0;
     quint32 crc = 0;
 };
 std::optional<CommitComment> ReadComment(QByteArrayView comment);
-QByteArray CommentUpToCrc(quint64 start);
+QByteArray CommentUpToCrc(quint64 start, quint64 position);
 QByteArray CommentCrc(quint32 crc);
 
 }  // namespace docmodel::zip

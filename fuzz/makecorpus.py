@@ -81,3 +81,8 @@ with zipfile.ZipFile(saved) as archive:
 tool("add-hyperlink", saved, "notes.txt")
 (FOLDER / saved.name).write_bytes(saved.read_bytes())
 (FOLDER / "torn.tfmprt").write_bytes(saved.read_bytes()[:-20])
+# Another program adds a part and carries our comment over.
+edited = FOLDER / "edited.tfmprt"
+edited.write_bytes(saved.read_bytes())
+with zipfile.ZipFile(edited, "a") as archive:
+    archive.writestr(zipfile.ZipInfo("theirs.txt"), "x")

@@ -54,6 +54,10 @@ void Patch(QByteArray& bytes, qsizetype at, Number value) {
     qToLittleEndian(value, bytes.data() + at);
 }
 
+QByteArray Hex(qsizetype number) {
+    return QByteArray::number(number, 16).rightJustified(16, '0');
+}
+
 }  // namespace
 
 class TestPackageDamage : public QObject {
@@ -115,7 +119,7 @@ private Q_SLOTS:
         const qsizetype before = FileBytes(path_).size();
         SaveAs(path_, kNewState);
         // A comment whose own text is damaged may be anybody's, so it protects nothing any more.
-        const qsizetype comment = FileBytes(path_).size() - 36;
+        const qsizetype comment = FileBytes(path_).size() - 53;
         for (qsizetype at = before; at < comment; ++at) {
             const Flipped flipped(path_, at, 0x11);
             QCOMPARE(StateOf(path_), kOldState);
@@ -320,7 +324,7 @@ private Q_SLOTS:
 
     void ACommentOfOthersIsPassedOver() {
         for (const QByteArray& comment :
-             {QByteArray("made by hand"), QByteArray(36, 'c'), QByteArray(65'535, 'P')}) {
+             {QByteArray("made by hand"), QByteArray(53, 'c'), QByteArray(65'535, 'P')}) {
             WriteBytes(path_, RawPackage({{.name = kDocumentPart, .data = kOldState}}, comment));
             QCOMPARE(StateOf(path_), kOldState);
             SaveAs(path_, kNewState);
@@ -368,8 +372,8 @@ private Q_SLOTS:
         for (int i = 0; i < 10'000; ++i) {
             QByteArray end("PK\5\6" + QByteArray(18, '\0'));
             Patch(end, 16, quint32(bytes.size()));
-            Patch(end, 20, quint16(36));
-            bytes += end + "docmodel 1 0000000000100000 00000000";
+            Patch(end, 20, quint16(53));
+            bytes += end + "docmodel 1 0000000000100000 " + Hex(bytes.size()) + " 00000000";
         }
         IsRefusedAtOpen(bytes, QStringLiteral("too many incomplete saves"));
     }
@@ -379,8 +383,8 @@ private Q_SLOTS:
         QByteArray end("PK\5\6" + QByteArray(18, '\0'));
         bytes.resize(40 << 20);
         Patch(end, 16, quint32(bytes.size()));
-        Patch(end, 20, quint16(36));
-        end += "docmodel 1 0000000000000000 ";
+        Patch(end, 20, quint16(53));
+        end += "docmodel 1 0000000000000000 " + Hex(bytes.size()) + ' ';
         const QByteArray summed = bytes + end;
         IsRefusedAtOpen(summed + QByteArray::number(Crc(summed), 16).rightJustified(8, '0'),
                         QStringLiteral("missing or incomplete"));

@@ -36,6 +36,38 @@ QByteArray ReadByPython(const QString& path, const QString& name) {
                      {path, name});
 }
 
+// Adds a part as each of the tools does.
+QByteArray AddByPython(const QString& path, const QString& name, const QByteArray& text) {
+    return RunPython(QStringLiteral("import sys, zipfile\n"
+                                    "with zipfile.ZipFile(sys.argv[1], 'a') as z:\n"
+                                    "    z.writestr(sys.argv[2], sys.argv[3])\n"),
+                     {path, name, QString::fromUtf8(text)});
+}
+
+QByteArray AddByZip(const QString& path, const QString& name, const QByteArray& text) {
+    const QString folder = QFileInfo(path).path();
+    WriteBytes(folder + u'/' + name, text);
+    const QString script = QStringLiteral("cd \"$1\" && zip -q \"$2\" \"$3\" && rm \"$3\"");
+    return Run(QStringLiteral("sh"),
+               {QStringLiteral("-c"), script, QStringLiteral("sh"), folder, path, name});
+}
+
+QByteArray AddByLibzip(const QString& path, const QString& name, const QByteArray& text) {
+    int error = 0;
+    zip_t* archive = zip_open(path.toUtf8().constData(), 0, &error);
+    if (!archive)
+        return "libzip error " + QByteArray::number(error);
+    zip_source_t* source = zip_source_buffer(archive, text.constData(), quint64(text.size()), 0);
+    if (zip_file_add(archive, name.toUtf8().constData(), source, ZIP_FL_OVERWRITE) < 0 ||
+        zip_close(archive) != 0) {
+        zip_discard(archive);
+        return "libzip can't write";
+    }
+    return QByteArray();
+}
+
+using AddPart = QByteArray (*)(const QString&, const QString&, const QByteArray&);
+
 template <typename Number>
 void Append(QByteArray& to, Number value) {
     const Number little = qToLittleEndian(value);
@@ -95,6 +127,61 @@ private Q_SLOTS:
         QVERIFY(FileBytes(path_).startsWith(before));
         QCOMPARE(ReadByPython(path_, QString::fromUtf8(kDocumentPart)), "ok 5 <document/>");
         QCOMPARE(AllParts(path_).value("Größe.bin"), parts.value("Größe.bin"));
+    }
+
+    // They carry the comment of our end record over to their own.
+    void WhatOthersAddToASavedDocumentIsTheNewestStateAndIsKept_data() {
+        QTest::addColumn<AddPart>("add");
+        QTest::newRow("Python") << AddPart(AddByPython);
+        QTest::newRow("zip") << AddPart(AddByZip);
+        QTest::newRow("libzip") << AddPart(AddByLibzip);
+    }
+
+    void WhatOthersAddToASavedDocumentIsTheNewestStateAndIsKept() {
+        QFETCH(AddPart, add);
+        PackageWriter::Create(path_, SmallParts());
+        SaveAs(path_, "<document save=\"0\"/>");
+        QMap<QByteArray, QByteArray> expected = AllParts(path_);
+        for (int round = 1; round <= 3; ++round) {
+            const QByteArray number = QByteArray::number(round);
+            const QByteArray theirs = "theirs" + number + ".txt";
+            QCOMPARE(add(path_, QString::fromUtf8(theirs), "text " + number), QByteArray());
+            QVERIFY(FileBytes(path_).right(53).startsWith("docmodel 1 "));
+            expected[theirs] = "text " + number;
+            QCOMPARE(AllParts(path_), expected);
+
+            const QByteArray ours = "<document save=\"" + number + "\"/>";
+            PackageWriter writer(path_);
+            writer.Put("ours" + number + ".bin", Noise(1000 * round));
+            writer.Commit(ours);
+            expected["ours" + number + ".bin"] = Noise(1000 * round);
+            expected[kDocumentPart] = ours;
+            QCOMPARE(AllParts(path_), expected);
+            QCOMPARE(ReadByPython(path_, QString::fromUtf8(theirs)),
+                     "ok " + QByteArray::number(expected.size()) + " text " + number);
+        }
+    }
+
+    // They take the torn save's record, which is the last one, and go on from there.
+    void WhatOthersAddBehindATornSaveIsTheNewestState() {
+        PackageWriter::Create(path_, SmallParts());
+        SaveAs(path_, "<document save=\"0\"/>");
+        const qsizetype before = FileBytes(path_).size();
+        SaveAs(path_, "<document save=\"1\"/>");
+        QByteArray bytes = FileBytes(path_);
+        bytes.replace(before, 4, QByteArray(4, '\0'));  // of the core properties
+        WriteBytes(path_, bytes);
+        QCOMPARE(AllParts(path_).value(kDocumentPart), QByteArray("<document save=\"0\"/>"));
+        QCOMPARE(AddByPython(path_, QStringLiteral("theirs.txt"), "text"), QByteArray());
+        {
+            const Package package = Package::Open(path_);
+            QCOMPARE(package.ReadPart("theirs.txt", 100), QByteArray("text"));
+            QCOMPARE(package.ReadPart(kDocumentPart, 100), QByteArray("<document save=\"1\"/>"));
+            QVERIFY(ErrorOf([&] { package.ReadPart("docProps/core.xml", 1000); }).contains(path_));
+        }
+        SaveAs(path_, "<document save=\"2\"/>");  // writes the core properties anew
+        QCOMPARE(AllParts(path_).value("theirs.txt"), QByteArray("text"));
+        QCOMPARE(AllParts(path_).value(kDocumentPart), QByteArray("<document save=\"2\"/>"));
     }
 
     void Zip64FieldsOfPythonAreRead() {
