@@ -262,6 +262,10 @@ void DocumentBuilder::SetPreview(const QByteArray& picture) {
         throw FailedError(data_->path, QStringLiteral("changed"),
                           QStringLiteral("the preview is no picture that documents can hold. Give "
                                          "a PNG, JPEG or BMP file"));
+    if (!IsWithinBounds(picture))
+        throw FailedError(data_->path, QStringLiteral("changed"),
+                          QStringLiteral("the preview is damaged, or larger than any that is "
+                                         "shown. Give another picture"));
     data_->Content().Put(kThumbnailKind, format->partName, format->contentType, picture);
 }
 

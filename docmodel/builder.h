@@ -72,7 +72,8 @@ public:
     // Writes the lock record: who reserved the document. An empty user takes the lock off.
     void SetLockedBy(const QString& user);
 
-    // The bytes of a PNG, JPEG or BMP file; raises for anything else. Replaces the former preview.
+    // The bytes of a PNG, JPEG or BMP file; raises for anything else, and for a picture that is too
+    // large to be read as a preview. Replaces the former preview.
     void SetPreview(const QByteArray& picture);
     // Stands for the model's geometry: `bytes` bytes, the same for the same seed, which do not
     // compress, as packed geometry doesn't.

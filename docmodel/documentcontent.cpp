@@ -81,20 +81,31 @@ DocumentContent::Parts DocumentContent::Changed() {
     }
     Parts parts;
     if (core_) {
-        parts.append({NameFor(kCoreKind), core_->Bytes()});
+        parts.append({NameFor(kCoreKind), Checked(NameFor(kCoreKind), core_->Bytes())});
         Enter(kCoreKind, NameFor(kCoreKind), kCoreKind.contentType);
     }
     if (custom_ && custom_->IsChanged()) {
-        parts.append({NameFor(kCustomKind), custom_->Bytes()});
+        parts.append({NameFor(kCustomKind), Checked(NameFor(kCustomKind), custom_->Bytes())});
         Enter(kCustomKind, NameFor(kCustomKind), kCustomKind.contentType);
     }
     for (const OtherPart& part : others_)
         parts.append({part.name, part.bytes});
     if (relationships_ && relationships_->IsChanged())
-        parts.prepend({Relationships::kPart, relationships_->Bytes()});
+        parts.prepend(
+            {Relationships::kPart, Checked(Relationships::kPart, relationships_->Bytes())});
     if (types_ && types_->IsChanged())
-        parts.prepend({ContentTypes::kPart, types_->Bytes()});
+        parts.prepend({ContentTypes::kPart, Checked(ContentTypes::kPart, types_->Bytes())});
     return parts;
+}
+
+QByteArray DocumentContent::TablesBytes() {
+    return Checked(kDocumentPart, Tables().Bytes());
+}
+
+// What could not be read again must not be written.
+QByteArray DocumentContent::Checked(const QByteArray& name, const QByteArray& bytes) const {
+    RequireXmlLimits(bytes, file_, name);
+    return bytes;
 }
 
 void DocumentContent::EnterIfThere(const PartKind& kind) {

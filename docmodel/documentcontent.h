@@ -39,11 +39,12 @@ public:
              const QByteArray& bytes);
 
     // The parts that changed, the package's own ones first, without the tables. A part that is new
-    // is entered among the content types and relationships.
+    // is entered among the content types and relationships. Raises DocumentError when one has
+    // become larger than what is read, as TablesBytes does.
     Parts Changed();
     // The parts to remove; complete after Changed.
     const QList<QByteArray>& Removed() const { return removed_; }
-    QByteArray TablesBytes() { return Tables().Bytes(); }
+    QByteArray TablesBytes();
 
 private:
     struct OtherPart {
@@ -51,6 +52,7 @@ private:
         QByteArray bytes;
     };
     void Enter(const PartKind& kind, const QByteArray& name, const QByteArray& type);
+    QByteArray Checked(const QByteArray& name, const QByteArray& bytes) const;
     void EnterIfThere(const PartKind& kind);
     void Remove(const QByteArray& name);
     QByteArray Find(const PartKind& kind) const;     // in the package; empty if not there

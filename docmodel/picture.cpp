@@ -10,6 +10,10 @@ namespace {
 
 constexpr qint64 kMaxPixels = 32 << 20;  // 128 MiB of picture; screens have a quarter of it
 
+bool IsPossible(QSize size) {
+    return !size.isEmpty() && qint64(size.width()) * size.height() <= kMaxPixels;
+}
+
 constexpr PictureFormat kPng = {"png", "docProps/thumbnail.png", "image/png"};
 constexpr PictureFormat kJpeg = {"jpeg", "docProps/thumbnail.jpeg", "image/jpeg"};
 constexpr PictureFormat kBmp = {"bmp", "docProps/thumbnail.bmp", "image/bmp"};
@@ -35,6 +39,16 @@ const PictureFormat* PictureFormatOf(const QByteArray& bytes) {
     return bytes.startsWith("BM") ? &kBmp : nullptr;
 }
 
+bool IsWithinBounds(const QByteArray& bytes) {
+    const PictureFormat* format = PictureFormatOf(bytes);
+    if (!format || bytes.size() > kMaxPreviewBytes)
+        return false;
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    return IsPossible(QImageReader(&buffer, format->name).size());
+}
+
 QImage ReadPicture(const QByteArray& bytes) {
     const PictureFormat* format = PictureFormatOf(bytes);
     if (!format)
@@ -44,8 +58,7 @@ QImage ReadPicture(const QByteArray& bytes) {
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer, format->name);
     reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (size.isEmpty() || qint64(size.width()) * size.height() > kMaxPixels)
+    if (!IsPossible(reader.size()))
         return {};
     const QImage picture = reader.read();
     return picture.isNull() ? picture : OnWhite(picture);

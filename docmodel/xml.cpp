@@ -42,12 +42,19 @@ QByteArray AsUtf8(QByteArray bytes) {
     return QUtf8StringView(bytes).isValidUtf8() ? bytes : QByteArray();
 }
 
-bool TakesTooMuch(const QByteArray& bytes) {
+bool TakesTooMuch(QByteArrayView bytes) {
     if (bytes.size() <= kUncountedBytes)
         return false;
     const auto elements = std::count(bytes.cbegin(), bytes.cend(), '<');
     const auto attributes = std::count(bytes.cbegin(), bytes.cend(), '=');
     return elements * kBytesAnElement + attributes * kBytesAnAttribute > kMaxTreeBytes;
+}
+
+// What is beyond the bounds of a part in UTF-8, read or written; empty if nothing is.
+QString LimitFault(QByteArrayView bytes) {
+    if (bytes.size() > kMaxXmlBytes)
+        return QStringLiteral("is too big");
+    return TakesTooMuch(bytes) ? QStringLiteral("has too many elements") : QString();
 }
 
 bool IsTooDeep(pugi::xml_node top) {
@@ -148,8 +155,8 @@ XmlPart XmlPart::Parse(QByteArray bytes, const QString& file, QByteArrayView par
     parsed.bytes_ = AsUtf8(std::move(bytes));
     if (parsed.bytes_.isEmpty())
         throw XmlError(file, part, QStringLiteral("is empty or no text in UTF-8"));
-    if (TakesTooMuch(parsed.bytes_))
-        throw XmlError(file, part, QStringLiteral("has too many elements"));
+    if (const QString fault = LimitFault(parsed.bytes_); !fault.isEmpty())
+        throw XmlError(file, part, fault);
     if (!EndsInTag(parsed.bytes_))
         throw XmlError(file, part, QStringLiteral("does not end in a tag"));
     const pugi::xml_parse_result result = parsed.document_->load_buffer_inplace(
@@ -201,6 +208,14 @@ void RequireXmlText(const QString& text, const QString& file, const QString& wha
                           QStringLiteral("the %1 holds a character that no document can store. "
                                          "Remove the control characters from it")
                               .arg(what));
+}
+
+void RequireXmlLimits(QByteArrayView bytes, const QString& file, QByteArrayView part) {
+    if (const QString fault = LimitFault(bytes); !fault.isEmpty())
+        throw FailedError(file, QStringLiteral("saved"),
+                          QStringLiteral("its part %1, with the change, %2 to be opened again. "
+                                         "Change less, or shorten the texts")
+                              .arg(ShownName(part), fault));
 }
 
 QString WithXmlLineEnds(QString text) {

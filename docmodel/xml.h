@@ -37,6 +37,9 @@ private:
 bool IsXmlText(const QString& text);
 // Raises DocumentError when it can't. `what` names the text in the sentence, such as "title".
 void RequireXmlText(const QString& text, const QString& file, const QString& what);
+// Raises DocumentError when the bytes, which are to be written as a part, are more than Parse
+// takes.
+void RequireXmlLimits(QByteArrayView bytes, const QString& file, QByteArrayView part);
 // XML reads every line end as a line feed; texts are brought to that before they are stored, so
 // that they compare equal when they are read again.
 QString WithXmlLineEnds(QString text);

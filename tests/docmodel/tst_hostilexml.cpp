@@ -198,6 +198,57 @@ private Q_SLOTS:
         QVERIFY(PeakKilobytes() - before < 256 << 10);
     }
 
+    // What a save may write is exactly what can be read again.
+    void ASaveOfMoreThanCanBeReadIsRefusedAndWritesNothing() {
+        DocumentBuilder document = DocumentBuilder::New(path_, DocumentBuilder::IfThere::Replace);
+        document.SetTitle("x");
+        document.AddHyperlink("x");
+        document.AddConfiguration("x");
+        document.Save();
+        const auto fitting = qsizetype(kMaxXmlBytes) - PartOf(path_, "docProps/core.xml").size();
+        const auto refuse = [&](const char* part, const std::function<void()>& save) {
+            const QByteArray before = FileBytes(path_);
+            const QString error = ErrorOf(save);
+            QVERIFY2(error.contains(path_) && error.contains(part), qPrintable(error));
+            QCOMPARE(FileBytes(path_), before);
+        };
+        const auto saveTitle = [&](const QString& title) {
+            const auto info = OpenInfo(path_);
+            info->SetTitle(title);
+            info->Save();
+        };
+        const QString giant(kMaxXmlBytes, u'x');
+        saveTitle(QString(fitting + 1, u'x'));
+        QCOMPARE(OpenInfo(path_)->GetTitle().size(), fitting + 1);
+        refuse("docProps/core.xml", [&] { saveTitle(QString(fitting + 2, u'x')); });
+        refuse("docProps/core.xml", [&] { saveTitle(QString(6'000'000, u'=')); });
+        refuse("docProps/custom.xml", [&] {
+            const auto info = OpenInfo(path_);
+            QVERIFY(info->SetCustomProperty("p", giant));
+            info->Save();
+        });
+        refuse("docmodel/document.xml", [&] {
+            const auto file = OpenFile(path_);
+            file->SetHyperlink(0, giant);
+            file->SaveHyperlinks();
+        });
+        refuse("docmodel/document.xml", [&] {
+            const auto properties = OpenFile(path_)->GetCustomProperties(0);
+            QVERIFY(properties->SetCustomProperty("p", giant));
+            properties->Save();
+        });
+        QCOMPARE(OpenFile(path_)->GetHyperlink(0), "x");
+    }
+
+    void ANewDocumentOfMoreThanCanBeReadIsNotMade() {
+        QFile::remove(path_);
+        DocumentBuilder document = DocumentBuilder::New(path_);
+        document.AddHyperlink(QString(kMaxXmlBytes, u'x'));
+        const QString error = ErrorOf([&] { document.Save(); });
+        QVERIFY2(error.contains(path_) && error.contains("too big"), qPrintable(error));
+        QVERIFY(!QFile::exists(path_));
+    }
+
     void TextsThatXmlCantHoldAreTold() {
         QVERIFY(IsXmlText(QString::fromUtf8("a\tb\nc\r\u00fc\u4f53\U0001F527")));
         QVERIFY(IsXmlText(QString()));

@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 #include <QtEndian>
 
+#include "docmodel/picture.h"
 #include "tests/docmodel/documenttools.h"
 #include "tests/support/testenvironment.h"
 
@@ -164,6 +165,22 @@ private Q_SLOTS:
     void OnlyPicturesAreStored() {
         DocumentBuilder document = DocumentBuilder::Edit(path_);
         QVERIFY(ErrorOf([&] { document.SetPreview("text"); }).contains(path_));
+    }
+
+    void APictureThatWouldNotBeShownIsNotStored() {
+        DocumentBuilder document = DocumentBuilder::Edit(path_);
+        const QByteArray picture = Encoded(Picture(), "PNG");
+        const auto errorOf = [&](const QByteArray& bytes) {
+            return ErrorOf([&] { document.SetPreview(bytes); });
+        };
+        QVERIFY(errorOf(PngThatClaims(100'000, 1'000)).contains(path_));
+        QVERIFY(errorOf(PngThatClaims(2'000'000'000, 2'000'000'000)).contains(path_));
+        // What stands behind the picture's end does not matter to who reads it.
+        QVERIFY(errorOf(picture + QByteArray(kMaxPreviewBytes - picture.size() + 1, 'x'))
+                    .contains(path_));
+        document.SetPreview(picture + QByteArray(kMaxPreviewBytes - picture.size(), 'x'));
+        document.Save();
+        QCOMPARE(Extract(), 0);
     }
 };
 
