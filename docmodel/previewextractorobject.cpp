@@ -1,7 +1,8 @@
 #include "docmodel/previewextractorobject.h"
 
+#include <QBuffer>
+#include <QFile>
 #include <QImageWriter>
-#include <QSaveFile>
 
 #include "docmodel/opc.h"
 #include "docmodel/picture.h"
@@ -28,13 +29,15 @@ QByteArray PreviewPart(const Package& package) {
     return {};
 }
 
-// Whole or not at all: the former bitmap stays until the new one is written.
+// Writes over what is there, whose place on the disk costs nothing then; only a whole picture gets
+// that far.
 bool WriteBitmap(const QImage& picture, const QString& path) {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    QImageWriter writer(&file, "bmp");
-    return writer.write(picture) && file.commit();
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QFile file(path);
+    return buffer.open(QIODevice::WriteOnly) && QImageWriter(&buffer, "bmp").write(picture) &&
+           file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) &&
+           file.write(bytes) == bytes.size() && file.resize(bytes.size());
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ QString Given(const QString& text) {
 }
 
 QUrl UrlOf(const QString& file) {
-    const QUrl url(file, QUrl::TolerantMode);
+    QUrl url(file, QUrl::TolerantMode);
     if (url.scheme().size() > 1)  // one letter is a drive
         return url;
     const QString local = QString(file).replace(u'\\', u'/');

@@ -26,7 +26,7 @@ TestLibrary::~TestLibrary() {
 
 QString TestLibrary::Make(const QString& name, const QList<Component>& components,
                           const QList<External>& externals) {
-    const QString path = Path(name);
+    QString path = Path(name);
     QDir().mkpath(QFileInfo(path).path());
     DocumentBuilder document = DocumentBuilder::New(path, DocumentBuilder::IfThere::Replace);
     for (const Component& component : components)
@@ -38,7 +38,7 @@ QString TestLibrary::Make(const QString& name, const QList<Component>& component
 }
 
 QString TestLibrary::MakeBroken(const QString& name) {
-    const QString path = Path(name);
+    QString path = Path(name);
     QFile file(path);
     if (!file.open(QFile::WriteOnly) || file.write("no package\n") < 0)
         qFatal("can't write %s", qPrintable(path));

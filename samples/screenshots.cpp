@@ -1,0 +1,118 @@
+// Pictures of the program at work on the sample library, for the documentation and for looking at
+// what was changed: docbench-screenshots DOCUMENT FOLDER [SCENE...]
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDir>
+#include <QTextStream>
+#include <functional>
+
+#include "app/theme.h"
+#include "frame/frmabout.h"
+#include "frame/maincontrol.h"
+#include "platform/desktopseams.h"
+#include "platform/helpwindow.h"
+#include "services/language.h"
+#include "shell/previewpane.h"
+#include "shell/usercontrol1.h"
+
+namespace {
+
+using namespace docbench;
+
+// What a scene works with: the frame on screen with the main assembly open, and the library.
+struct Stage {
+    Maincontrol& frame;
+    QDir library;
+
+    template <typename T>
+    T* Find(const char* name) const {
+        return frame.findChild<T*>(QLatin1String(name));
+    }
+    QStringList Documents(int most) const {
+        QStringList paths;
+        for (const QString& name : library.entryList({"*.tfm*"}, QDir::Files, QDir::Name))
+            paths.append(library.filePath(name));
+        return paths.mid(0, most);
+    }
+};
+
+// Gives the widget that is to be seen.
+using Scene = std::function<QWidget*(Stage&)>;
+
+Scene Previews(int count) {
+    return [count](Stage& stage) -> QWidget* {
+        auto* pane = stage.Find<PreviewPane>("preview");
+        if (count > 1)
+            stage.Find<QCheckBox>("chkUseFullScreen")->click();
+        const QStringList paths = stage.Documents(count);
+        for (const QString& path : paths)
+            pane->ShowPreview(path);
+        return &stage.frame;
+    };
+}
+
+QWidget* About(Stage& stage) {
+    auto* box = new frmAbout(&stage.frame);
+    box->show();
+    return box;
+}
+
+QWidget* Help(Stage&) {
+    static HelpWindow help;
+    help.Open(gHelpFile, QStringLiteral("preview"));
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->objectName() == QLatin1String("HelpWindow"))
+            return window;
+    }
+    return nullptr;
+}
+
+const std::vector<std::pair<QString, Scene>>& Scenes() {
+    static const std::vector<std::pair<QString, Scene>> scenes = {
+        {QStringLiteral("preview-1"), Previews(1)},
+        {QStringLiteral("preview-4"), Previews(4)},
+        {QStringLiteral("preview-25"), Previews(25)},
+        {QStringLiteral("about"), About},
+        {QStringLiteral("help"), Help},
+    };
+    return scenes;
+}
+
+bool Shoot(const QString& name, const Scene& scene, const QString& document, const QDir& folder) {
+    Maincontrol frame;
+    frame.resize(1024, 700);
+    frame.show();
+    frame.Shell().OpenPath(document);
+    Stage stage{frame, QFileInfo(document).dir()};
+    QWidget* seen = scene(stage);
+    QApplication::processEvents();
+    const QString file = folder.filePath(name + QStringLiteral(".png"));
+    if (!seen || !seen->grab().save(file))
+        return false;
+    QTextStream(stdout) << file << '\n';
+    return true;
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() < 3) {
+        QTextStream(stderr) << "usage: docbench-screenshots DOCUMENT FOLDER [SCENE...]\n";
+        return 2;
+    }
+    ApplyTheme(qEnvironmentVariable("DOCBENCH_THEME", QStringLiteral("light")));
+    const DesktopSeams seams;
+    const QDir folder(arguments[2]);
+    QDir().mkpath(folder.path());
+    const QStringList wanted = arguments.mid(3);
+    int failed = 0;
+    for (const auto& [name, scene] : Scenes()) {
+        if (wanted.isEmpty() || wanted.contains(name))
+            failed +=
+                Shoot(name, scene, QFileInfo(arguments[1]).absoluteFilePath(), folder) ? 0 : 1;
+    }
+    return failed == 0 ? 0 : 1;
+}
