@@ -96,9 +96,11 @@ QList<CustomProperty> CustomProperties::Properties() const {
 }
 
 pugi::xml_node CustomProperties::Find(const QString& name) const {
-    return xml_.Root().find_child([&](pugi::xml_node node) {
-        return IsProperty(node) && SameName(AttributeOf(node, "name"), name);
+    const pugi::xml_node root = xml_.Root();
+    const auto found = FindNamed(root.begin(), root.end(), name, [](pugi::xml_node node) {
+        return IsProperty(node) ? std::optional(AttributeOf(node, "name")) : std::nullopt;
     });
+    return found == root.end() ? pugi::xml_node() : *found;
 }
 
 pugi::xml_node CustomProperties::Append(const QString& name) {

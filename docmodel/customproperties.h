@@ -5,6 +5,9 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
+#include <algorithm>
+#include <functional>
+#include <optional>
 
 #include "docmodel/propertyvalue.h"
 #include "docmodel/xml.h"
@@ -16,6 +19,21 @@ using docbench::CustomProperty;
 
 // Names of properties are the same in any case of letters.
 bool SameName(const QString& one, const QString& other);
+
+// The one of that name in [begin, end); `end` if there is none. `nameOf` tells the name of each,
+// and none for what is no property. Packages of others may have names that differ in case alone, so
+// an exact one goes first.
+template <typename Iterator, typename NameOf>
+Iterator FindNamed(Iterator begin, Iterator end, const QString& name, NameOf nameOf) {
+    const auto find = [&](auto same) {
+        return std::find_if(begin, end, [&](const auto& one) {
+            const std::optional<QString> found = nameOf(one);
+            return found && same(*found, name);
+        });
+    };
+    const Iterator exact = find(std::equal_to<QString>());
+    return exact != end ? exact : find(SameName);
+}
 
 QByteArray StampOf(const QList<CustomProperty>& properties);
 

@@ -59,9 +59,12 @@ public:
 
 private:
     pugi::xml_node Find(const QString& name) const {
-        return configuration_.find_child([&](pugi::xml_node node) {
-            return element_ == node.name() && SameName(AttributeOf(node, "name"), name);
-        });
+        const auto found = FindNamed(
+            configuration_.begin(), configuration_.end(), name, [this](pugi::xml_node node) {
+                return element_ == node.name() ? std::optional(AttributeOf(node, "name"))
+                                               : std::nullopt;
+            });
+        return found == configuration_.end() ? pugi::xml_node() : *found;
     }
     pugi::xml_node configuration_;
     QByteArray element_;

@@ -55,9 +55,8 @@ void PropertySet::ApplyTo(PropertyTarget& target) const {
 }
 
 qsizetype PropertySet::Find(const QString& name) const {
-    const auto found =
-        std::find_if(current_.begin(), current_.end(),
-                     [&](const CustomProperty& property) { return SameName(property.name, name); });
+    const auto found = FindNamed(current_.begin(), current_.end(), name,
+                                 [](const CustomProperty& property) { return property.name; });
     return found == current_.end() ? -1 : found - current_.begin();
 }
 

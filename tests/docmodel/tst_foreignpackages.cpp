@@ -138,6 +138,56 @@ private Q_SLOTS:
             QVERIFY2(core.contains(kept), kept);
     }
 
+    void PropertiesWhoseNamesDifferInCaseAloneAreTwo() {
+        const QByteArray head =
+            "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n"
+            "<Properties xmlns=\"http://schemas.openxmlformats.org/officeDocument/2006/"
+            "custom-properties\" xmlns:vt=\"http://schemas.openxmlformats.org/officeDocument/2006/"
+            "docPropsVTypes\">\n";
+        const auto property = [](const char* name, const char* pid, const char* text) {
+            return QByteArray("<property fmtid=\"{D5CDD505-2E9C-101B-9397-08002B2CF9AE}\" pid=\"") +
+                   pid + "\" name=\"" + name + "\">\n<vt:lpwstr>" + text +
+                   "</vt:lpwstr>\n</property>\n";
+        };
+        const QByteArray first = property("State", "2", "one");
+        const QByteArray second = property("STATE", "3", "two");
+        const QByteArray part = head + first + second + "</Properties>\n";
+        PackageWriter::Create(path_, {{"docProps/custom.xml", part}}, true);
+        const auto info = OpenInfo(path_);
+        for (int i = 0; i < info->GetCustomCount(); ++i)
+            QVERIFY(info->SetCustomProperty(info->GetCustomProperty(i).name,
+                                            info->GetCustomProperty(i).value));
+        info->Save();
+        QCOMPARE(PartOf(path_, "docProps/custom.xml"), part);
+        QVERIFY(info->SetCustomProperty("STATE", "new"));
+        info->Save();
+        QCOMPARE(PartOf(path_, "docProps/custom.xml"),
+                 head + first + property("STATE", "3", "new") + "</Properties>\n");
+        QVERIFY(info->SetCustomProperty("state", "any"));  // none is exact: the first
+        QVERIFY(info->DeleteCustomProperty("STATE"));
+        info->Save();
+        QCOMPARE(PartOf(path_, "docProps/custom.xml"),
+                 head + property("State", "2", "any") + "</Properties>\n");
+    }
+
+    void PropertiesOfAConfigurationWhoseNamesDifferInCaseAloneAreTwo() {
+        const auto tables = [](const char* first, const char* second) {
+            return Tables(
+                "<configurations><configuration id=\"1\" name=\"A\">"
+                "<property name=\"State\" type=\"text\">" +
+                QByteArray(first) + "</property><property name=\"STATE\" type=\"text\">" + second +
+                "</property></configuration></configurations>");
+        };
+        WriteTables(path_, tables("one", "two"));
+        const auto set = OpenFile(path_)->GetCustomProperties(0);
+        QVERIFY(set->SetCustomProperty("State", "one"));
+        QVERIFY(set->SetCustomProperty("STATE", "new"));
+        set->Save();
+        QByteArray saved = PartOf(path_, kDocumentPart);
+        saved.remove(0, saved.indexOf('\n') + 1);
+        QCOMPARE(saved.replace("\n", ""), tables("one", "new"));
+    }
+
     void TheirPartsStayByteForByte() {
         Make(kOtherCore, "relationships");
         const QByteArray before = PartOf(path_, "word/document.bin");
