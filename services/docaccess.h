@@ -7,6 +7,7 @@
 #include <QtPlugin>
 #include <exception>
 #include <memory>
+#include <optional>
 #include <utility>
 
 namespace docbench {
@@ -174,6 +175,74 @@ public:
     virtual int ExtractPreview(const QString& path, const QString& bitmapPath) = 0;
 };
 
+// Who a server is told that we are.
+struct Credentials {
+    QString user;
+    QString password;
+};
+
+// Whoever can ask the user for the password of a server.
+class CredentialSource {
+public:
+    virtual ~CredentialSource() = default;
+    // `server` is "https://host:port". `attempt` is 0 for the first question about a realm, and
+    // counts up when the last answer was refused. None: the user does not want to.
+    virtual std::optional<Credentials> Ask(const QString& server, const QString& realm,
+                                           int attempt) = 0;
+    // An answer of Ask was right: it may be kept.
+    virtual void Accepted(const QString& server, const QString& realm,
+                          const Credentials& credentials) = 0;
+};
+
+struct WebClientSettings {
+    CredentialSource* credentials = nullptr;  // null: servers that want a password refuse
+    int timeoutSeconds = 30;                  // without a byte from the server
+    QString trustFile = {};                   // certificates (PEM) trusted besides the system's
+};
+
+// A cursor over the entries of a web folder, the folder itself left out.
+class WebFolderListing {
+public:
+    virtual ~WebFolderListing() = default;
+    virtual bool Reset() = 0;                  // back to before the first entry
+    virtual bool NextEntry(QString& url) = 0;  // false at the end; `url` is then empty
+    // The property `name` of `nameSpace` of an entry, by its address. For "DAV:" "resourcetype" the
+    // value is "File" for a file and "Folder" for a folder. False when it is not known.
+    virtual bool GetProperty(const QString& url, const QString& nameSpace, const QString& name,
+                             QString& value) = 0;
+};
+
+// Transfers with web folders (WebDAV, RFC 4918). Addresses are as users write them: "\" is sent as
+// "/", and what can't stand in an address is escaped; an escape that is there already stays. All
+// calls block; false means that nothing was done, and LastError says why.
+class WebFolderClient {
+public:
+    enum class Presence { Absent, Present, Unknown };
+
+    virtual ~WebFolderClient() = default;
+
+    // Downloads into a sibling of `localPath` that takes its name when it is whole.
+    virtual bool GetFile(const QString& url, const QString& localPath) = 0;
+    // Uploads, unless that would overwrite somebody else's work: an address that was downloaded or
+    // uploaded before must still have what it had then; any other must not exist unless
+    // AllowOverwrite was called for it.
+    virtual bool PutFile(const QString& localPath, const QString& url) = 0;
+    virtual bool MakeFolder(const QString& url) = 0;
+    // Renames on the server, taking what is known of the one address to the other. `overwrite` 0
+    // refuses to replace.
+    virtual bool MoveResource(const QString& url, const QString& newUrl, int overwrite) = 0;
+    // The entries of a folder with the property "resourcetype"; null when it can't be listed.
+    virtual std::unique_ptr<WebFolderListing> ListFolder(const QString& url) = 0;
+
+    // Whether there is anything at an address, as its server says now.
+    virtual Presence Exists(const QString& url) = 0;
+    // The user has agreed that whatever is at an address is replaced by the next upload.
+    virtual void AllowOverwrite(const QString& url) = 0;
+    // A whole sentence for the user about the last call that failed: the address, the reason and
+    // what to do.
+    virtual QString LastError() const = 0;
+};
+
 class LanguageSettings {
 public:
     virtual ~LanguageSettings() = default;
@@ -192,6 +261,10 @@ public:
     virtual std::unique_ptr<FolderSearcher> MakeFolderSearcher() = 0;
     virtual std::unique_ptr<PreviewExtractor> MakePreviewExtractor() = 0;
     virtual std::unique_ptr<LanguageSettings> MakeLanguageSettings() = 0;
+    // Null from a library that knows no web folders.
+    virtual std::unique_ptr<WebFolderClient> MakeWebFolderClient(const WebClientSettings&) {
+        return nullptr;
+    }
 };
 
 }  // namespace docbench
