@@ -7,10 +7,11 @@ namespace docmodel {
 namespace {
 
 template <typename Part>
-std::optional<Part> ReadPart(const Package& package, const PartKind& kind) {
-    const QByteArray name = FindPart(package, kind);
+std::optional<Part> ReadPart(const PartFinder& parts, const PartKind& kind) {
+    const QByteArray name = parts.Find(kind);
     if (name.isEmpty())
         return std::nullopt;
+    const Package& package = parts.Where();
     return Part(package.ReadPart(name, kMaxXmlBytes), package.Path(), name);
 }
 
@@ -20,40 +21,43 @@ bool SamePart(const QByteArray& one, const QByteArray& other) {
 
 }  // namespace
 
-std::optional<DocumentPart> ReadTables(const Package& package) {
-    return ReadPart<DocumentPart>(package, kDocumentKind);
+std::optional<DocumentPart> ReadTables(const PartFinder& parts) {
+    return ReadPart<DocumentPart>(parts, kDocumentKind);
 }
 
-std::optional<CoreProperties> ReadCore(const Package& package) {
-    return ReadPart<CoreProperties>(package, kCoreKind);
+std::optional<CoreProperties> ReadCore(const PartFinder& parts) {
+    return ReadPart<CoreProperties>(parts, kCoreKind);
 }
 
-std::optional<CustomProperties> ReadCustom(const Package& package) {
-    return ReadPart<CustomProperties>(package, kCustomKind);
+std::optional<CustomProperties> ReadCustom(const PartFinder& parts) {
+    return ReadPart<CustomProperties>(parts, kCustomKind);
 }
 
 DocumentContent::DocumentContent(const Package* package, const QString& file)
-    : package_(package), file_(file) {}
+    : package_(package), file_(file) {
+    if (package)
+        finder_.emplace(*package);
+}
 
 DocumentPart& DocumentContent::Tables() {
-    if (!tables_ && package_)
-        tables_ = ReadTables(*package_);
+    if (!tables_ && finder_)
+        tables_ = ReadTables(*finder_);
     if (!tables_)
         tables_.emplace();
     return *tables_;
 }
 
 CoreProperties& DocumentContent::Core() {
-    if (!core_ && package_)
-        core_ = ReadCore(*package_);
+    if (!core_ && finder_)
+        core_ = ReadCore(*finder_);
     if (!core_)
         core_.emplace();
     return *core_;
 }
 
 CustomProperties& DocumentContent::Custom() {
-    if (!custom_ && package_)
-        custom_ = ReadCustom(*package_);
+    if (!custom_ && finder_)
+        custom_ = ReadCustom(*finder_);
     if (!custom_)
         custom_.emplace();
     return *custom_;
@@ -133,7 +137,7 @@ void DocumentContent::Remove(const QByteArray& name) {
 }
 
 QByteArray DocumentContent::Find(const PartKind& kind) const {
-    return package_ ? FindPart(*package_, kind) : QByteArray();
+    return finder_ ? finder_->Find(kind) : QByteArray();
 }
 
 QByteArray DocumentContent::NameFor(const PartKind& kind) const {

@@ -18,9 +18,9 @@
 namespace docmodel {
 
 // The tables, the summary and the custom properties of a package; none where it has no such part.
-std::optional<DocumentPart> ReadTables(const Package& package);
-std::optional<CoreProperties> ReadCore(const Package& package);
-std::optional<CustomProperties> ReadCustom(const Package& package);
+std::optional<DocumentPart> ReadTables(const PartFinder& parts);
+std::optional<CoreProperties> ReadCore(const PartFinder& parts);
+std::optional<CustomProperties> ReadCustom(const PartFinder& parts);
 
 class DocumentContent {
 public:
@@ -59,6 +59,7 @@ private:
     QByteArray NameFor(const PartKind& kind) const;  // the same, or the name of a new one
 
     const Package* package_;
+    std::optional<PartFinder> finder_;  // of the package, if there is one
     QString file_;
     std::optional<DocumentPart> tables_;
     std::optional<CoreProperties> core_;

@@ -32,9 +32,10 @@ bool DocumentInfoObject::Open(const QString& path) {
     path_ = path;
     try {
         const Package package = Package::Open(path);
-        const std::optional<DocumentPart> tables = ReadTables(package);
-        const std::optional<CoreProperties> core = ReadCore(package);
-        const std::optional<CustomProperties> custom = ReadCustom(package);
+        const PartFinder parts(package);
+        const std::optional<DocumentPart> tables = ReadTables(parts);
+        const std::optional<CoreProperties> core = ReadCore(parts);
+        const std::optional<CustomProperties> custom = ReadCustom(parts);
         const CoreProperties nothing;
         if (tables || core || custom)
             state_.emplace(core ? *core : nothing,

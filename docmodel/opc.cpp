@@ -142,15 +142,26 @@ void Relationships::Set(const PartKind& kind, const QByteArray& part) {
     changed_ = true;
 }
 
-QByteArray FindPart(const Package& package, const PartKind& kind) {
-    if (package.HasPart(kDocumentPart) && package.HasPart(kind.name))
+QByteArray PartFinder::Named(const PartKind& kind) const {
+    if (!package_->HasPart(Relationships::kPart))
+        return QByteArray();
+    if (!relationships_)
+        relationships_.emplace(package_);
+    return relationships_->Target(kind);
+}
+
+// Another part may have the usual name, so the relationship goes first.
+QByteArray PartFinder::Find(const PartKind& kind) const {
+    const bool isAtUsualName = package_->HasPart(kind.name);
+    if (isAtUsualName && &kind == &kDocumentKind)
         return kind.name;
-    if (package.HasPart(Relationships::kPart)) {
-        QByteArray named = Relationships(&package).Target(kind);
-        if (!named.isEmpty() && package.HasPart(named))
-            return named;
-    }
-    return package.HasPart(kind.name) ? QByteArray(kind.name) : QByteArray();
+    if (QByteArray named = Named(kind); !named.isEmpty() && package_->HasPart(named))
+        return named;
+    return isAtUsualName ? QByteArray(kind.name) : QByteArray();
+}
+
+QByteArray FindPart(const Package& package, const PartKind& kind) {
+    return PartFinder(package).Find(kind);
 }
 
 }  // namespace docmodel

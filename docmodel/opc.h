@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <optional>
 
 #include "docmodel/package.h"
 #include "docmodel/xml.h"
@@ -57,8 +58,22 @@ private:
     bool changed_ = false;
 };
 
-// The name of the package's part of that kind; empty if it has none. Where our own tables are, the
-// parts stand where we put them and no relationship is read.
+// Finds the parts of a package by what they are. Reads the relationships once, and not for our own
+// tables, whose name no other part may have: reading them is what is done a thousand times over.
+class PartFinder {
+public:
+    PartFinder(const Package& package) : package_(&package) {}  // which must outlive the finder
+    const Package& Where() const { return *package_; }
+    // The name of the part: the one that the package names, else that of the usual name; empty if
+    // it has none. Raises DocumentError when the relationships are damaged.
+    QByteArray Find(const PartKind& kind) const;
+
+private:
+    QByteArray Named(const PartKind& kind) const;
+    const Package* package_;
+    mutable std::optional<Relationships> relationships_;
+};
+
 QByteArray FindPart(const Package& package, const PartKind& kind);
 
 }  // namespace docmodel

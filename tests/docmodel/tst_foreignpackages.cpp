@@ -202,6 +202,47 @@ private Q_SLOTS:
         QCOMPARE(OpenFile(path_)->GetComponentCount(), 1);
     }
 
+    void TheirPartsAreFoundByRelationshipAlsoWhenOthersHaveTheUsualNames() {
+        const QByteArray core =
+            "<coreProperties xmlns='http://schemas.openxmlformats.org/package/2006/metadata/"
+            "core-properties'><title xmlns='http://purl.org/dc/elements/1.1/'>";
+        const QByteArray custom =
+            "<Properties xmlns='http://schemas.openxmlformats.org/officeDocument/2006/"
+            "custom-properties' xmlns:vt='http://schemas.openxmlformats.org/officeDocument/2006/"
+            "docPropsVTypes'><property pid='2' name='";
+        const QByteArray customEnd = "'><vt:bool>1</vt:bool></property></Properties>";
+        Relationships relationships(nullptr);
+        relationships.Set(kCoreKind, "their/core.xml");
+        relationships.Set(kCustomKind, "their/custom.xml");
+        relationships.Set(kThumbnailKind, "their/picture.png");
+        const NamedParts unrelated = {
+            {"docProps/core.xml", core + "unrelated</title></coreProperties>"},
+            {"docProps/custom.xml", custom + "unrelated" + customEnd},
+            {"docProps/thumbnail.png", "no picture"}};
+        PackageWriter::Create(
+            path_,
+            NamedParts{{Relationships::kPart, relationships.Bytes()},
+                       {"their/core.xml", core + "theirs</title></coreProperties>"},
+                       {"their/custom.xml", custom + "theirs" + customEnd},
+                       {"their/picture.png", "no picture"}} +
+                unrelated,
+            true);
+        for (int round = 0; round < 3; ++round) {
+            const auto info = OpenInfo(path_);
+            QCOMPARE(info->GetTitle(), round == 0 ? "theirs" : "ours");
+            QCOMPARE(info->GetCustomProperty(0).name, "theirs");
+            info->SetTitle("ours");
+            QVERIFY(info->SetCustomProperty("round", round));
+            info->Save();
+            const Package package = Package::Open(path_);
+            QCOMPARE(FindPart(package, kThumbnailKind), "their/picture.png");
+            for (const auto& [name, bytes] : unrelated)
+                QCOMPARE(package.ReadPart(name, 1000), bytes);
+        }
+        QVERIFY(Read("their/core.xml").contains("title||ours"));
+        QVERIFY(Read("their/custom.xml").contains("property|round"));
+    }
+
     void OurPartsAreMadeKnownToThem() {
         for (const char* mode : {"relationships", "none"}) {
             Make(kOfficeCore, mode);
