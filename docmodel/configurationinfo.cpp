@@ -75,7 +75,8 @@ void ConfigurationInfo::Save() {
     }
     QList<CustomProperty> saved = newest.ConfigurationProperties(index);
     change.Commit();
-    properties_ = PropertySet(std::move(saved));
+    if (edits.IsChanged())
+        properties_ = PropertySet(std::move(saved));
 }
 
 }  // namespace docmodel

@@ -215,59 +215,56 @@ QByteArray DocumentFileObject::GetStamp(Table table) {
     return state.Hyperlinks().StampAtOpen();
 }
 
+// The tables as this object knows them take the same edits. What it has not written stays as it was
+// at Open: renewed, it would let a later save overwrite work of others that nobody has seen here.
 void DocumentFileObject::Save() {
-    Bound();
+    State& state = Bound();
     DocumentChange change(path_);
-    ApplyReferences(change);
-    ApplyHyperlinks(change);
-    ApplyConfigurations(change);
+    RequireReferences(change);
+    RequireHyperlinks(change);
+    RequireConfigurations(change);
+    Apply(change.Content().Tables());
     change.Commit();
-    state_.emplace(path_, std::move(change.Content().Tables()));
+    Apply(state.part);
+    DocumentPart known = std::move(state.part);
+    state_.emplace(path_, std::move(known));
 }
 
+// Changes of other tables wait for Save.
 void DocumentFileObject::SaveHyperlinks() {
     State& state = Bound();
     DocumentChange change(path_);
-    ApplyHyperlinks(change);
+    RequireHyperlinks(change);
+    ApplyHyperlinks(change.Content().Tables());
     change.Commit();
-    // Changes of other tables wait for Save, with the stamps and positions that they were made by.
-    if (state.components.IsChanged() || state.externals.IsChanged() ||
-        state.ConfigurationsChanged())
-        state.hyperlinks.emplace(change.Content().Tables().Hyperlinks());
-    else
-        state_.emplace(path_, std::move(change.Content().Tables()));
+    ApplyHyperlinks(state.part);
+    state.hyperlinks.reset();
 }
 
-void DocumentFileObject::ApplyReferences(DocumentChange& change) {
+void DocumentFileObject::RequireReferences(DocumentChange& change) {
     State& state = *state_;
-    DocumentPart& newest = change.Content().Tables();
-    if (state.components.IsChanged()) {
+    const DocumentPart& newest = change.Content().Tables();
+    if (state.components.IsChanged())
         change.RequireUnchanged(StampOf(newest.Components()), state.components.StampAtOpen(),
                                 QStringLiteral("list of components"));
-        newest.SetComponentTargets(state.components.Changes(&StoredComponent::target));
-    }
-    if (state.externals.IsChanged()) {
+    if (state.externals.IsChanged())
         change.RequireUnchanged(StampOf(newest.Externals()), state.externals.StampAtOpen(),
                                 QStringLiteral("list of external references"));
-        newest.SetExternalTargets(state.externals.Changes(&StoredExternal::target));
-    }
 }
 
-void DocumentFileObject::ApplyHyperlinks(DocumentChange& change) {
+void DocumentFileObject::RequireHyperlinks(DocumentChange& change) {
     State& state = *state_;
-    if (!state.hyperlinks || !state.hyperlinks->IsChanged())
-        return;
-    DocumentPart& newest = change.Content().Tables();
-    change.RequireUnchanged(StampOf(newest.Hyperlinks()), state.hyperlinks->StampAtOpen(),
-                            QStringLiteral("list of hyperlinks"));
-    newest.SetHyperlinks(state.hyperlinks->Changes(&StoredHyperlink::text));
+    if (state.hyperlinks && state.hyperlinks->IsChanged())
+        change.RequireUnchanged(StampOf(change.Content().Tables().Hyperlinks()),
+                                state.hyperlinks->StampAtOpen(),
+                                QStringLiteral("list of hyperlinks"));
 }
 
-void DocumentFileObject::ApplyConfigurations(DocumentChange& change) {
+void DocumentFileObject::RequireConfigurations(DocumentChange& change) {
     State& state = *state_;
     if (!state.ConfigurationsChanged())
         return;
-    DocumentPart& newest = change.Content().Tables();
+    const DocumentPart& newest = change.Content().Tables();
     change.RequireUnchanged(StampOf(newest.Configurations()), state.Configurations().StampAtOpen(),
                             QStringLiteral("list of configurations"));
     for (const int deleted : state.deletedConfigurations)
@@ -275,8 +272,21 @@ void DocumentFileObject::ApplyConfigurations(DocumentChange& change) {
             StampOf(newest.ConfigurationProperties(deleted)),
             StampOf(state.part.ConfigurationProperties(deleted)),
             QStringLiteral("configuration %1").arg(newest.Configurations()[deleted].name));
-    newest.SetConfigurationNames(state.Configurations().Changes(&StoredConfiguration::name));
-    newest.DeleteConfigurations(state.deletedConfigurations);
+}
+
+void DocumentFileObject::Apply(DocumentPart& tables) const {
+    const State& state = *state_;
+    tables.SetComponentTargets(state.components.Changes(&StoredComponent::target));
+    tables.SetExternalTargets(state.externals.Changes(&StoredExternal::target));
+    ApplyHyperlinks(tables);
+    if (state.configurations)
+        tables.SetConfigurationNames(state.configurations->Changes(&StoredConfiguration::name));
+    tables.DeleteConfigurations(state.deletedConfigurations);
+}
+
+void DocumentFileObject::ApplyHyperlinks(DocumentPart& tables) const {
+    if (state_->hyperlinks)
+        tables.SetHyperlinks(state_->hyperlinks->Changes(&StoredHyperlink::text));
 }
 
 }  // namespace docmodel

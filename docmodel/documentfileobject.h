@@ -46,7 +46,7 @@ private:
     struct State {
         State(const QString& path, DocumentPart tables);
         QString folder;     // of the document, ending in a separator
-        DocumentPart part;  // at Open or at the last own save
+        DocumentPart part;  // at Open, with what was saved by this object since then
         TrackedTable<StoredComponent> components;
         TrackedTable<StoredExternal> externals;
         // Read when they are first asked for: a walk through references never does.
@@ -64,9 +64,13 @@ private:
     template <typename Row>
     const Row& RowAt(const TrackedTable<Row>& table, int index, const char* what) const;
     bool IsNameFree(const QString& name, int exceptId);
-    void ApplyReferences(DocumentChange& change);
-    void ApplyConfigurations(DocumentChange& change);
-    void ApplyHyperlinks(DocumentChange& change);
+    // Raise when a table that was changed here has been changed by somebody else.
+    void RequireReferences(DocumentChange& change);
+    void RequireHyperlinks(DocumentChange& change);
+    void RequireConfigurations(DocumentChange& change);
+    // Carry the changes out on `tables`.
+    void Apply(DocumentPart& tables) const;
+    void ApplyHyperlinks(DocumentPart& tables) const;
 
     QString path_;  // as given, also of a document that could not be opened
     std::optional<State> state_;

@@ -161,7 +161,23 @@ void DocumentInfoObject::Save() {
     ApplyLock(newest.Tables());
     QList<CustomProperty> custom = newest.Custom().Properties();
     change.Commit();
-    state_.emplace(newest.Core(), std::move(custom), newest.Tables().Lock());
+    Renew(newest, std::move(custom));
+}
+
+// What was not written stays as it was at Open: renewed, it would let a later save overwrite work
+// of others that nobody has seen here.
+void DocumentInfoObject::Renew(DocumentContent& newest, QList<CustomProperty> custom) {
+    State& state = *state_;
+    const CoreProperties& core = newest.Core();
+    if (state.summary != state.summaryAtOpen)
+        state.summary = state.summaryAtOpen = core.Texts();
+    if (state.custom.IsChanged())
+        state.custom = PropertySet(std::move(custom));
+    state.created = core.Created();
+    state.modified = core.Modified();
+    state.lastSavedBy = core.LastSavedBy();
+    state.lockChanged = false;
+    state.lockUserChanged = false;
 }
 
 bool DocumentInfoObject::GetLocked() {

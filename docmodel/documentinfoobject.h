@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "docmodel/coreproperties.h"
-#include "docmodel/documentpart.h"
+#include "docmodel/documentcontent.h"
 #include "docmodel/propertyset.h"
 #include "services/docaccess.h"
 
@@ -54,6 +54,8 @@ private:
     State& Bound();  // raises when no document is open
     void SetField(SummaryField field, const QString& text);
     void ApplyLock(DocumentPart& tables) const;
+    // After a save: takes over what this object wrote, `custom` among it.
+    void Renew(DocumentContent& newest, QList<CustomProperty> custom);
 
     QString path_;  // as given, also of a document that could not be opened
     std::optional<State> state_;

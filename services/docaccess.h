@@ -29,7 +29,7 @@ private:
 // One row of the component table: a part or subassembly placed in an assembly or shown by a
 // drawing.
 struct ComponentRow {
-    QString name;       // title: the file name of `path` without its extension
+    QString name;  // title: the file name of `path`, without the extension if that is a document's
     QString extension;  // of `path`, without the dot
     QString path;       // cleaned local path, or URL
     int count = 1;      // instances, at least 1
@@ -93,8 +93,9 @@ public:
     virtual QString GetLockedBy() = 0;
     virtual void SetLockedBy(const QString& user) = 0;
 
-    // Digest of the properties as they were at Open or at the last own Save, leaving out dates,
-    // last saver and lock. Two equal stamps mean that nobody changed the properties in between.
+    // Digest of the properties as they were at Open or when this object last wrote them (summary
+    // and custom properties each for itself), leaving out dates, last saver and lock. Two equal
+    // stamps mean that nobody changed the properties in between.
     virtual QByteArray GetStamp() = 0;
 };
 
@@ -144,8 +145,8 @@ public:
     virtual ComponentRow GetComponent(int index, const QString& webFolder) = 0;
     virtual ExternalRow GetExternalReference(int index, const QString& webFolder) = 0;
 
-    // Digest of a table as it was at Open or at the last own Save. A position found by a search is
-    // good for writing only while the stamp is the one that the search saw.
+    // Digest of a table as it was at Open or when this object last wrote it. A position found by a
+    // search is good for writing only while the stamp is the one that the search saw.
     virtual QByteArray GetStamp(Table table) = 0;
 };
 

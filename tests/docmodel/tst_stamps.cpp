@@ -246,17 +246,104 @@ private Q_SLOTS:
         QCOMPARE(Refusal([&] { file->Save(); }), "refused");
     }
 
-    void AnOwnSaveRenewsWhatTheObjectKnows() {
+    void AnOwnSaveRenewsTheTableThatItWroteAlone() {
         const auto file = OpenFile(path_);
         const auto other = OpenFile(path_);
         other->SetHyperlink(0, "by the other");
         other->SaveHyperlinks();
-        file->SetComponentPath(0, "/x.tfmprt");
-        file->Save();
-        QCOMPARE(file->GetHyperlink(0), "by the other");
+        for (const char* path : {"/x.tfmprt", "/y.tfmprt"}) {
+            file->SetComponentPath(0, path);
+            file->Save();
+            QCOMPARE(file->GetComponent(0, QString()).path, path);
+        }
+        QCOMPARE(Differences(*file, *OpenFile(path_)), "H");
+        QCOMPARE(file->GetHyperlink(0), "x");
         file->SetHyperlink(0, "mine");
+        QCOMPARE(Refusal([&] { file->Save(); }), "refused");
+        QCOMPARE(Refusal([&] { file->SaveHyperlinks(); }), "refused");
+        QCOMPARE(OpenFile(path_)->GetHyperlink(0), "by the other");
+    }
+
+    void SavingHyperlinksRenewsThemAlone() {
+        const auto file = OpenFile(path_);
+        const auto other = OpenFile(path_);
+        other->SetComponentPath(0, "/by/the/other.tfmprt");
+        QCOMPARE(other->RenameConfiguration(0, "by the other"), 0);
+        other->Save();
+        for (const char* text : {"mine", "mine again"}) {
+            file->SetHyperlink(0, text);
+            file->SaveHyperlinks();
+            QCOMPARE(file->GetHyperlink(0), text);
+        }
+        QCOMPARE(Differences(*file, *OpenFile(path_)), "CG");
+        QCOMPARE(file->GetConfiguration(0), "A");
+        file->SetComponentPath(0, "/mine.tfmprt");
+        QCOMPARE(Refusal([&] { file->Save(); }), "refused");
+    }
+
+    void ASaveOfTheTitleDoesNotRenewTheProperties() {
+        const auto mine = OpenInfo(path_);
+        const auto other = OpenInfo(path_);
+        QVERIFY(other->SetCustomProperty("p", "by the other"));
+        other->Save();
+        mine->SetTitle("mine");
+        QCOMPARE(Refusal([&] { mine->Save(); }), "saved");
+        QCOMPARE(mine->GetCustomProperty(0).value.toString(), "q");
+        QVERIFY(mine->SetCustomProperty("p", "mine"));
+        QCOMPARE(Refusal([&] { mine->Save(); }), "refused");
+        QCOMPARE(OpenInfo(path_)->GetCustomProperty(0).value.toString(), "by the other");
+    }
+
+    void ASaveOfPropertiesDoesNotRenewTheSummary() {
+        const auto mine = OpenInfo(path_);
+        const auto other = OpenInfo(path_);
+        other->SetTitle("by the other");
+        other->Save();
+        for (const char* text : {"mine", "mine again"}) {
+            QVERIFY(mine->SetCustomProperty("p", text));
+            mine->SetLocked(true);
+            QCOMPARE(Refusal([&] { mine->Save(); }), "saved");
+        }
+        QVERIFY(mine->GetLocked());
+        QCOMPARE(mine->GetTitle(), "title");
+        mine->SetSubject("mine");
+        QCOMPARE(Refusal([&] { mine->Save(); }), "refused");
+        QCOMPARE(OpenInfo(path_)->GetTitle(), "by the other");
+    }
+
+    void ASaveOfNothingDoesNotRenewAConfigurationsProperties() {
+        const auto mine = OpenFile(path_)->GetCustomProperties(0);
+        const auto other = OpenFile(path_)->GetCustomProperties(0);
+        QVERIFY(other->SetCustomProperty("p", "by the other"));
+        other->Save();
+        mine->Save();
+        QVERIFY(mine->SetCustomProperty("p", "mine"));
+        QCOMPARE(Refusal([&] { mine->Save(); }), "refused");
+    }
+
+    void PropertiesThatChangedBeforeAnOwnSaveStillKeepTheirConfiguration() {
+        const auto file = OpenFile(path_);
+        const auto set = OpenFile(path_)->GetCustomProperties(0);
+        QVERIFY(set->SetCustomProperty("p", "somebody's work"));
+        set->Save();
+        QCOMPARE(file->RenameConfiguration(1, "new"), 0);
         file->Save();
-        QCOMPARE(OpenFile(path_)->GetHyperlink(0), "mine");
+        QCOMPARE(file->GetConfiguration(1), "new");
+        QCOMPARE(file->DeleteConfiguration(0, kDelete), 0);
+        QCOMPARE(Refusal([&] { file->Save(); }), "refused");
+    }
+
+    void SavingTwiceIsRefusedWhenSomebodyElseWroteTheSameTableBetween() {
+        const auto file = OpenFile(path_);
+        const auto other = OpenFile(path_);
+        file->SetComponentPath(0, "/first.tfmprt");
+        file->Save();
+        other->Open(path_);
+        other->SetComponentPath(0, "/by/the/other.tfmprt");
+        other->Save();
+        file->SetComponentPath(0, "/second.tfmprt");
+        QCOMPARE(Refusal([&] { file->Save(); }), "refused");
+        QCOMPARE(OpenFile(path_)->GetComponent(0, QString()).path, "/by/the/other.tfmprt");
     }
 
     void AnotherProcessIsNoticedLikeAnotherObject() {
