@@ -89,9 +89,9 @@ void PackageWriter::Remove(const QByteArray& name) {
 void PackageWriter::Commit(const QByteArray& documentPart) {
     Q_ASSERT(!data_->committed);
     data_->committed = true;
-    data_->CheckUnchanged();
     const StateImage image = data_->LayOut(documentPart);
     CheckLimits(image, data_->Current().path);
+    data_->CheckUnchanged();
     data_->Append(image);
     data_->CompactIfWorth();
     Unlock(data_->Current().file.Get());
@@ -123,12 +123,16 @@ StateImage PackageWriter::Data::LayOut(const QByteArray& documentPart) {
     return LayOutState(Current().tail.StateEnd(), kept, parts, Checksum::Yes);
 }
 
-// Programs that know nothing of the lock may have written as well.
+// Programs that know nothing of the lock may have written as well, into the file or another one in
+// its place.
 void PackageWriter::Data::CheckUnchanged() const {
+    const struct stat& opened = Current().status;
     struct stat now;
     if (fstat(Current().file.Get(), &now) != 0)
         throw SystemError(Current().path, QStringLiteral("written"), errno);
-    if (now.st_size != off_t(Current().fileSize))
+    if (!IsSameFile(realPath, opened) || now.st_size != off_t(Current().fileSize) ||
+        now.st_mtim.tv_sec != opened.st_mtim.tv_sec ||
+        now.st_mtim.tv_nsec != opened.st_mtim.tv_nsec)
         throw FailedError(Current().path, QStringLiteral("written"),
                           QStringLiteral("another program has changed it meanwhile. Try again"));
 }

@@ -371,6 +371,39 @@ private Q_SLOTS:
         QCOMPARE(StateOf(path_), QByteArray("old"));
     }
 
+    void AFileThatWasWrittenOverUnderTheWriterIsRefused() {
+        PackageWriter writer(path_);
+        QByteArray theirs = FileBytes(path_);
+        theirs.replace("\"old\"", "\"its\"");  // as long as ours
+        {
+            QFile file(path_);
+            QVERIFY(file.open(QIODevice::ReadWrite));
+            QCOMPARE(file.write(theirs), qint64(theirs.size()));
+            // Whatever the grain of the disk's clock is.
+            QVERIFY(file.flush());
+            const QDateTime later = file.fileTime(QFile::FileModificationTime).addSecs(1);
+            QVERIFY(file.setFileTime(later, QFile::FileModificationTime));
+        }
+        const QString error = ErrorOf([&] { writer.Commit(kNewState); });
+        QVERIFY2(error.contains(u"another program has changed it"), qPrintable(error));
+        QCOMPARE(FileBytes(path_), theirs);
+    }
+
+    void AFileThatWasReplacedUnderTheWriterIsRefused() {
+        const QByteArray bytes = FileBytes(path_);
+        PackageWriter writer(path_);
+        WriteBytes(path_ + ".new", bytes);
+        QVERIFY(QFile::remove(path_));
+        QVERIFY(QFile::rename(path_ + ".new", path_));
+        const QString error = ErrorOf([&] { writer.Commit(kNewState); });
+        QVERIFY2(error.contains(u"another program has changed it"), qPrintable(error));
+        QCOMPARE(FileBytes(path_), bytes);
+        PackageWriter removed(path_);
+        QVERIFY(QFile::remove(path_));
+        QVERIFY(!ErrorOf([&] { removed.Commit(kNewState); }).isEmpty());
+        QVERIFY(!QFile::exists(path_));
+    }
+
     void AReaderBesideAWriterSeesWholeStatesInTheirOrder() {
         std::atomic<bool> done = false;
         QString fault;
