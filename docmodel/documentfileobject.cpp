@@ -13,6 +13,10 @@ enum Status { kDone = 0, kNoSuchConfiguration = 1, kRefused = 2 };
 
 constexpr int kDeleteMode = 2;
 
+// What GetAccessState answers, among others.
+constexpr int kReadOnly = 2;
+constexpr int kOtherReason = 4;
+
 QString ExtensionOfFile(const QString& path) {
     const qsizetype dot = path.lastIndexOf(u'.');
     return dot > path.lastIndexOf(u'/') ? path.mid(dot + 1) : QString();
@@ -23,6 +27,23 @@ void RequirePath(const QString& path, const QString& file) {
         throw FailedError(file, QStringLiteral("changed"),
                           QStringLiteral("the new path of a reference is empty. Give one"));
     RequireXmlText(path, file, QStringLiteral("new path of a reference"));
+}
+
+// Whether a save could read what it always reads: the tables and the summary.
+bool CanBeUnderstood(const QString& path) {
+    try {
+        const Package package = Package::Open(path);
+        const PartFinder parts(package);
+        if (const std::optional<DocumentPart> tables = ReadTables(parts)) {
+            tables->Components();
+            tables->Externals();
+            tables->Configurations();
+        }
+        ReadCore(parts);
+        return true;
+    } catch (const DocumentError&) {
+        return false;  // the state has no room for the reason; opening the document tells it
+    }
 }
 
 }  // namespace
@@ -197,7 +218,8 @@ bool DocumentFileObject::GetReferencesLocked() {
 }
 
 int DocumentFileObject::GetAccessState(const QString& path) {
-    return AccessState(path);
+    const int state = AccessState(path);
+    return state == kReadOnly || CanBeUnderstood(path) ? state : kOtherReason;
 }
 
 QByteArray DocumentFileObject::GetStamp(Table table) {

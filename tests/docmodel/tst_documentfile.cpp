@@ -237,6 +237,34 @@ private Q_SLOTS:
         QCOMPARE(OpenFile(path_)->GetComponent(0, QString()).path, "/new/x.tfmprt");
     }
 
+    void ADocumentThatNoSaveCouldReadMayNotBeWritten_data() {
+        QTest::addColumn<QByteArray>("tables");
+        QTest::addColumn<QByteArray>("core");
+        QTest::addColumn<int>("state");
+        const QByteArray core =
+            "<coreProperties xmlns='http://schemas.openxmlformats.org/package/2006/metadata/"
+            "core-properties'/>";
+        QTest::newRow("sound") << Tables("") << core << 0;
+        QTest::newRow("old format") << Tables("", "0") << core << 0;
+        QTest::newRow("newer format") << Tables("", "2") << core << 4;
+        QTest::newRow("cut tables") << Tables("").chopped(3) << core << 4;
+        QTest::newRow("broken row")
+            << Tables("<components><component path='/a' count='x'/></components>") << core << 4;
+        QTest::newRow("broken configuration")
+            << Tables("<configurations><configuration id='x'/></configurations>") << core << 4;
+        QTest::newRow("cut summary") << Tables("") << core.chopped(1) << 4;
+    }
+    void ADocumentThatNoSaveCouldReadMayNotBeWritten() {
+        QFETCH(QByteArray, tables);
+        QFETCH(QByteArray, core);
+        QFETCH(int, state);
+        PackageWriter::Create(path_, {{"docProps/core.xml", core}, {kDocumentPart, tables}}, true);
+        const auto file = Access().MakeDocumentFile();
+        QCOMPARE(file->GetAccessState(path_), state);
+        QCOMPARE(chmod(qPrintable(path_), 0444), 0);
+        QCOMPARE(file->GetAccessState(path_), 2);
+    }
+
     void HyperlinksAreRewrittenInPlace() {
         const auto file = Access().MakeDocumentFile();
         file->OpenHyperlinks(path_);
