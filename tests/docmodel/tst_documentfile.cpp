@@ -263,6 +263,7 @@ private Q_SLOTS:
         QCOMPARE(file->GetAccessState(path_), state);
         QCOMPARE(chmod(qPrintable(path_), 0444), 0);
         QCOMPARE(file->GetAccessState(path_), 2);
+        QVERIFY(QFile::remove(path_));
     }
 
     void HyperlinksAreRewrittenInPlace() {
