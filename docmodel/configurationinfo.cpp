@@ -1,11 +1,10 @@
 #include "docmodel/configurationinfo.h"
 
-#include "docmodel/documentchange.h"
 #include "docmodel/packageerror.h"
 
 namespace docmodel {
 
-ConfigurationInfo::ConfigurationInfo(const QString& path, StoredConfiguration configuration,
+ConfigurationInfo::ConfigurationInfo(const BoundPath& path, StoredConfiguration configuration,
                                      QList<CustomProperty> properties)
     : path_(path), configuration_(std::move(configuration)), properties_(std::move(properties)) {}
 
@@ -16,7 +15,7 @@ bool ConfigurationInfo::Open(const QString&) {
 
 PropertySet& ConfigurationInfo::Bound() {
     if (!bound_)
-        throw FailedError(path_, QStringLiteral("read"),
+        throw FailedError(path_.given, QStringLiteral("read"),
                           QStringLiteral("the properties of its configuration %1 were given up. "
                                          "Open the document again")
                               .arg(configuration_.name));
@@ -24,7 +23,7 @@ PropertySet& ConfigurationInfo::Bound() {
 }
 
 void ConfigurationInfo::RaiseNoSummary() const {
-    throw FailedError(path_, QStringLiteral("changed"),
+    throw FailedError(path_.given, QStringLiteral("changed"),
                       QStringLiteral("its configuration %1 has no summary and no lock of its own. "
                                      "Change those of the document")
                           .arg(configuration_.name));
@@ -35,7 +34,7 @@ int ConfigurationInfo::GetCustomCount() {
 }
 
 CustomProperty ConfigurationInfo::GetCustomProperty(int index) {
-    return Bound().At(index, path_);
+    return Bound().At(index, path_.given);
 }
 
 bool ConfigurationInfo::SetCustomProperty(const QString& name, const QVariant& value) {
@@ -64,7 +63,7 @@ void ConfigurationInfo::Save() {
     DocumentPart& newest = change.Content().Tables();
     const int index = IndexIn(newest);
     if (index < 0)
-        throw FailedError(path_, QStringLiteral("saved"),
+        throw FailedError(path_.given, QStringLiteral("saved"),
                           QStringLiteral("its configuration %1 was renamed or deleted since it was "
                                          "opened. Open it again and repeat the change")
                               .arg(configuration_.name));

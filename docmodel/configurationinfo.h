@@ -2,7 +2,7 @@
 // it.
 #pragma once
 
-#include "docmodel/documentpart.h"
+#include "docmodel/documentchange.h"
 #include "docmodel/propertyset.h"
 #include "services/docaccess.h"
 
@@ -10,7 +10,7 @@ namespace docmodel {
 
 class ConfigurationInfo : public docbench::DocumentInfo {
 public:
-    ConfigurationInfo(const QString& path, StoredConfiguration configuration,
+    ConfigurationInfo(const BoundPath& path, StoredConfiguration configuration,
                       QList<CustomProperty> properties);
 
     bool Open(const QString& path) override;  // a configuration is not found by a path: false
@@ -43,7 +43,7 @@ private:
     PropertySet& Bound();
     int IndexIn(const DocumentPart& tables) const;  // -1 if the configuration is gone
 
-    QString path_;
+    BoundPath path_;
     StoredConfiguration configuration_;
     PropertySet properties_;
     bool bound_ = true;

@@ -4,8 +4,10 @@
 
 namespace docmodel {
 
-DocumentChange::DocumentChange(const QString& path)
-    : path_(path), writer_(path), content_(&writer_.Current(), path) {}
+DocumentChange::DocumentChange(const BoundPath& path)
+    : path_(path.given),
+      writer_(path.absolute, path.given),
+      content_(&writer_.Current(), path.given) {}
 
 void DocumentChange::RequireUnchanged(const QByteArray& now, const QByteArray& atOpen,
                                       const QString& what) const {

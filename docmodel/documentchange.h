@@ -7,13 +7,23 @@
 
 #include "docmodel/documentcontent.h"
 #include "docmodel/package.h"
+#include "docmodel/referencepath.h"
 
 namespace docmodel {
+
+// The path that an object is bound to. It leads to the same document when the working folder has
+// changed since.
+struct BoundPath {
+    BoundPath() = default;
+    BoundPath(const QString& path) : given(path), absolute(AbsolutePath(path)) {}
+    QString given;  // for error texts
+    QString absolute;
+};
 
 class DocumentChange {
 public:
     // Raises DocumentError when the file can't be read or may not be written now.
-    explicit DocumentChange(const QString& path);
+    explicit DocumentChange(const BoundPath& path);
 
     DocumentContent& Content() { return content_; }  // the newest state
     // Raises DocumentError if the two stamps differ. `what` names what was changed in the sentence,
@@ -25,7 +35,7 @@ public:
     void Commit();  // now, by the user of the process
 
 private:
-    QString path_;
+    QString path_;  // as given
     PackageWriter writer_;
     DocumentContent content_;
 };

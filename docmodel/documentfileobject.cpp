@@ -83,11 +83,11 @@ void DocumentFileObject::OpenHyperlinks(const QString& path) {
 
 DocumentFileObject::State& DocumentFileObject::Bound() {
     if (!state_)
-        throw DocumentError(path_.isEmpty()
+        throw DocumentError(path_.given.isEmpty()
                                 ? QStringLiteral("No document is open. Open one first.")
                                 : QStringLiteral("The document %1 is not open, as it could not be "
                                                  "read. Open it again.")
-                                      .arg(path_));
+                                      .arg(path_.given));
     return *state_;
 }
 
@@ -98,7 +98,7 @@ const Row& DocumentFileObject::RowAt(const TrackedTable<Row>& table, int index,
         throw DocumentError(
             QStringLiteral("The document %1 has no %2 at position %3, but %4 of them. Open it "
                            "again.")
-                .arg(path_, QLatin1String(what))
+                .arg(path_.given, QLatin1String(what))
                 .arg(index)
                 .arg(table.Rows().size()));
     return table.Rows()[index];
@@ -137,14 +137,14 @@ ExternalRow DocumentFileObject::GetExternalReference(int index, const QString& w
 void DocumentFileObject::SetComponentPath(int index, const QString& newPath) {
     State& state = Bound();
     RowAt(state.components, index, "component");
-    RequirePath(newPath, path_);
+    RequirePath(newPath, path_.given);
     state.components.Change(index).target = StoredPathFor(newPath, state.folder);
 }
 
 void DocumentFileObject::SetExternalReferencePath(int index, const QString& newPath) {
     State& state = Bound();
     RowAt(state.externals, index, "external reference");
-    RequirePath(newPath, path_);
+    RequirePath(newPath, path_.given);
     state.externals.Change(index).target = StoredPathFor(newPath, state.folder);
 }
 
@@ -155,7 +155,7 @@ QString DocumentFileObject::GetHyperlink(int index) {
 void DocumentFileObject::SetHyperlink(int index, const QString& text) {
     State& state = Bound();
     RowAt(state.Hyperlinks(), index, "hyperlink");
-    RequireXmlText(text, path_, QStringLiteral("hyperlink"));
+    RequireXmlText(text, path_.given, QStringLiteral("hyperlink"));
     state.Hyperlinks().Change(index).text = text;
 }
 
@@ -182,7 +182,7 @@ int DocumentFileObject::RenameConfiguration(int id, const QString& newName) {
     TrackedTable<StoredConfiguration>& table = state.Configurations();
     if (id < 0 || id >= table.Rows().size() || state.deletedConfigurations.contains(id))
         return kNoSuchConfiguration;
-    RequireXmlText(newName, path_, QStringLiteral("new name of a configuration"));
+    RequireXmlText(newName, path_.given, QStringLiteral("new name of a configuration"));
     if (newName.isEmpty() || !IsNameFree(newName, id))
         return kRefused;
     table.Change(id).name = newName;
@@ -249,7 +249,7 @@ void DocumentFileObject::Save() {
     change.Commit();
     Apply(state.part);
     DocumentPart known = std::move(state.part);
-    state_.emplace(path_, std::move(known));
+    state_.emplace(path_.absolute, std::move(known));
 }
 
 // Changes of other tables wait for Save.

@@ -72,7 +72,7 @@ private:
     void Apply(DocumentPart& tables) const;
     void ApplyHyperlinks(DocumentPart& tables) const;
 
-    QString path_;  // as given, also of a document that could not be opened
+    BoundPath path_;  // also of a document that could not be opened
     std::optional<State> state_;
 };
 

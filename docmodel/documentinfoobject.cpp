@@ -3,8 +3,6 @@
 #include <QLocale>
 #include <utility>
 
-#include "docmodel/documentchange.h"
-
 namespace docmodel {
 
 namespace {
@@ -50,17 +48,17 @@ bool DocumentInfoObject::Open(const QString& path) {
 
 DocumentInfoObject::State& DocumentInfoObject::Bound() {
     if (!state_)
-        throw DocumentError(path_.isEmpty()
+        throw DocumentError(path_.given.isEmpty()
                                 ? QStringLiteral("No document is open. Open one first.")
                                 : QStringLiteral("The document %1 is not open, as its properties "
                                                  "could not be read. Open it again.")
-                                      .arg(path_));
+                                      .arg(path_.given));
     return *state_;
 }
 
 void DocumentInfoObject::SetField(SummaryField field, const QString& text) {
     State& state = Bound();
-    RequireXmlText(text, path_, NameOf(field));
+    RequireXmlText(text, path_.given, NameOf(field));
     state.summary[size_t(field)] = WithXmlLineEnds(text);
 }
 
@@ -121,7 +119,7 @@ int DocumentInfoObject::GetCustomCount() {
 }
 
 CustomProperty DocumentInfoObject::GetCustomProperty(int index) {
-    return Bound().custom.At(index, path_);
+    return Bound().custom.At(index, path_.given);
 }
 
 bool DocumentInfoObject::SetCustomProperty(const QString& name, const QVariant& value) {
@@ -196,7 +194,7 @@ QString DocumentInfoObject::GetLockedBy() {
 
 void DocumentInfoObject::SetLockedBy(const QString& user) {
     State& state = Bound();
-    RequireXmlText(user, path_, QStringLiteral("name of the lock's owner"));
+    RequireXmlText(user, path_.given, QStringLiteral("name of the lock's owner"));
     state.lock.user = user;
     state.lockUserChanged = true;
 }

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "docmodel/coreproperties.h"
-#include "docmodel/documentcontent.h"
+#include "docmodel/documentchange.h"
 #include "docmodel/propertyset.h"
 #include "services/docaccess.h"
 
@@ -57,7 +57,7 @@ private:
     // After a save: takes over what this object wrote, `custom` among it.
     void Renew(DocumentContent& newest, QList<CustomProperty> custom);
 
-    QString path_;  // as given, also of a document that could not be opened
+    BoundPath path_;  // also of a document that could not be opened
     std::optional<State> state_;
 };
 

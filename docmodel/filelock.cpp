@@ -25,11 +25,11 @@ struct flock WholeFile(short type) {
     return lock;  // start and length 0: all of it
 }
 
-QByteArray RealPath(const QString& path) {
+QByteArray RealPath(const QString& path, const QString& shownPath) {
     const std::unique_ptr<char, decltype(&std::free)> real(
         realpath(SystemPath(path).constData(), nullptr), &std::free);
     if (!real)
-        throw SystemError(path, QStringLiteral("opened for writing"), errno);
+        throw SystemError(shownPath, QStringLiteral("opened for writing"), errno);
     return real.get();
 }
 
@@ -94,23 +94,23 @@ bool IsSameFile(const QByteArray& realPath, const struct stat& status) {
            now.st_ino == status.st_ino;
 }
 
-LockedFile OpenLocked(const QString& path, struct stat& status) {
+LockedFile OpenLocked(const QString& path, const QString& shownPath, struct stat& status) {
     LockedFile locked;
     for (int i = 0; i < kMaxReopens; ++i) {
-        locked.realPath = RealPath(path);
-        CheckWritable(locked.realPath, path);
+        locked.realPath = RealPath(path, shownPath);
+        CheckWritable(locked.realPath, shownPath);
         locked.file = FileDescriptor(
             open(locked.realPath.constData(), O_RDWR | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
         if (!locked.file.IsOpen())
-            throw SystemError(path, QStringLiteral("opened for writing"), errno);
-        WaitForLock(locked.file.Get(), path);
+            throw SystemError(shownPath, QStringLiteral("opened for writing"), errno);
+        WaitForLock(locked.file.Get(), shownPath);
         if (fstat(locked.file.Get(), &status) != 0)
-            throw SystemError(path, QStringLiteral("read"), errno);
+            throw SystemError(shownPath, QStringLiteral("read"), errno);
         // While this waited, a compaction may have put another file in the place of the locked one.
         if (IsSameFile(locked.realPath, status))
             return locked;
     }
-    throw FailedError(path, QStringLiteral("written"),
+    throw FailedError(shownPath, QStringLiteral("written"),
                       QStringLiteral("other programs keep replacing it. Try again later"));
 }
 

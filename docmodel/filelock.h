@@ -28,8 +28,9 @@ struct LockedFile {
 
 // Follows links, opens and locks; waits for a lock of another process, but only briefly. Raises
 // DocumentError when the file can't be opened for writing, has no write bit in its mode, or is
-// locked by another. Fills `status` with the file's state under the lock.
-LockedFile OpenLocked(const QString& path, struct stat& status);
+// locked by another; its text names `shownPath`. Fills `status` with the file's state under the
+// lock.
+LockedFile OpenLocked(const QString& path, const QString& shownPath, struct stat& status);
 
 // Whether `realPath` still leads to the file that `status` describes.
 bool IsSameFile(const QByteArray& realPath, const struct stat& status);

@@ -58,7 +58,8 @@ class PackageWriter {
 public:
     // Follows links. Raises DocumentError when the file can't be opened for writing, is read-only
     // by mode, or is held by another process.
-    explicit PackageWriter(const QString& path);
+    explicit PackageWriter(const QString& path) : PackageWriter(path, path) {}
+    PackageWriter(const QString& path, const QString& shownPath);  // the latter for error texts
     ~PackageWriter();
     PackageWriter(const PackageWriter&) = delete;
     PackageWriter& operator=(const PackageWriter&) = delete;

@@ -78,7 +78,7 @@ void CreateNew(const QString& path, const StateImage& image) {
 // Whoever reads the former file goes on reading it; whoever has it locked keeps it.
 void CreateOver(const QString& path, const StateImage& image) {
     struct stat status;
-    const LockedFile former = OpenLocked(path, status);
+    const LockedFile former = OpenLocked(path, path, status);
     SiblingFile file(former.realPath, 0600);
     if (!file.IsOpen())
         throw SystemError(path, Done(), errno);

@@ -26,7 +26,7 @@ struct PendingPart {
 }  // namespace
 
 struct PackageWriter::Data {
-    explicit Data(const QString& path);
+    Data(const QString& path, const QString& shownPath);
 
     bool IsReplaced(QByteArrayView name) const;
     StateImage LayOut(const QByteArray& documentPart);
@@ -43,24 +43,27 @@ struct PackageWriter::Data {
     bool committed = false;
 
 private:
-    static Package OpenCurrent(const QString& path, QByteArray& realPath);
+    static Package OpenCurrent(const QString& path, const QString& shownPath, QByteArray& realPath);
 };
 
 // The state is read through the descriptor that has the lock, so that it is the one that is
 // appended to.
-Package PackageWriter::Data::OpenCurrent(const QString& path, QByteArray& realPath) {
+Package PackageWriter::Data::OpenCurrent(const QString& path, const QString& shownPath,
+                                         QByteArray& realPath) {
     auto data = std::make_unique<Package::Data>();
-    data->path = path;
-    LockedFile locked = OpenLocked(path, data->status);
+    data->path = shownPath;
+    LockedFile locked = OpenLocked(path, shownPath, data->status);
     data->file = std::move(locked.file);
     realPath = locked.realPath;
     data->ReadState();
     return Package(std::move(data));
 }
 
-PackageWriter::Data::Data(const QString& path) : current(OpenCurrent(path, realPath)) {}
+PackageWriter::Data::Data(const QString& path, const QString& shownPath)
+    : current(OpenCurrent(path, shownPath, realPath)) {}
 
-PackageWriter::PackageWriter(const QString& path) : data_(std::make_unique<Data>(path)) {}
+PackageWriter::PackageWriter(const QString& path, const QString& shownPath)
+    : data_(std::make_unique<Data>(path, shownPath)) {}
 
 PackageWriter::~PackageWriter() = default;
 

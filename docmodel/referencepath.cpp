@@ -107,8 +107,13 @@ QString CleanPath(const QString& path) {
     return slashed.left(2) + Folded(slashed.mid(2), true);
 }
 
+QString AbsolutePath(const QString& path) {
+    const bool isAbsolute = path.isEmpty() || path.startsWith(u'/');
+    return isAbsolute ? path : QDir::currentPath() + u'/' + path;
+}
+
 QString HolderFolder(const QString& path) {
-    const QString absolute = path.startsWith(u'/') ? path : QDir::currentPath() + u'/' + path;
+    const QString absolute = AbsolutePath(path);
     const QString clean = NeedsCleaning(absolute) ? Folded(absolute, true) : absolute;
     return clean.left(clean.lastIndexOf(u'/') + 1);
 }

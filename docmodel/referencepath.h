@@ -22,6 +22,10 @@ bool IsUrl(const QString& path);  // "http://" or "https://", in any case
 // separator in a path that has no "/" or that begins with a drive letter, else part of a name.
 QString CleanPath(const QString& path);
 
+// `path`, made absolute by the working folder of this moment; an empty one stays. Not cleaned: the
+// disk may see links in it.
+QString AbsolutePath(const QString& path);
+
 // The folder of a document, absolute, clean and ending in a separator. `path` may be relative to
 // the working folder.
 QString HolderFolder(const QString& path);

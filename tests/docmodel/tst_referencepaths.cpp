@@ -205,6 +205,42 @@ private Q_SLOTS:
             PartOf(Path("asm/h.tfmasm"), kDocumentPart).contains("relative=\"../other/b.tfmprt\""));
     }
 
+    void ASaveWritesTheOpenedDocumentAlsoFromAnotherFolder() {
+        for (const char* folder : {"one", "two"}) {
+            const QString path = Path(QString("%1/h.tfmasm").arg(folder));
+            MakeHolder(path, Path("lib/a.tfmprt"));
+            DocumentBuilder document = DocumentBuilder::Edit(path);
+            document.AddConfiguration("A");
+            document.Save();
+        }
+        const QByteArray untouched = FileBytes(Path("two/h.tfmasm"));
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(Path("one")));
+        const auto file = OpenFile("h.tfmasm");
+        const auto info = OpenInfo("h.tfmasm");
+        const auto properties = file->GetCustomProperties(0);
+        QVERIFY(QDir::setCurrent(Path("two")));
+        for (int round = 0; round < 2; ++round) {
+            file->SetComponentPath(0, Path("lib/b%1.tfmprt").arg(round));
+            file->Save();
+            info->SetTitle(QString("title %1").arg(round));
+            info->Save();
+            QVERIFY(properties->SetCustomProperty("p", double(round)));
+            properties->Save();
+        }
+        QCOMPARE(FileBytes(Path("two/h.tfmasm")), untouched);
+        const auto saved = OpenFile(Path("one/h.tfmasm"));
+        QCOMPARE(saved->GetComponent(0, QString()).path, Path("lib/b1.tfmprt"));
+        QCOMPARE(saved->GetCustomProperties(0)->GetCustomProperty(0).value, QVariant(1.0));
+        QCOMPARE(OpenInfo(Path("one/h.tfmasm"))->GetTitle(), "title 1");
+        QVERIFY(PartOf(Path("one/h.tfmasm"), kDocumentPart).contains("\"../lib/b1.tfmprt\""));
+        QVERIFY(QFile::remove(Path("one/h.tfmasm")));
+        for (const QString& error : {ErrorOf([&] { file->Save(); }), ErrorOf([&] { info->Save(); }),
+                                     ErrorOf([&] { properties->Save(); })})
+            QVERIFY2(error.startsWith("The document h.tfmasm "), qPrintable(error));
+        QVERIFY(QDir::setCurrent(before));
+    }
+
     void AHolderBehindALinkKeepsThePathItWasOpenedBy() {
         Touch(Path("real/a.tfmprt"));
         MakeHolder(Path("real/h.tfmasm"), Path("gone/a.tfmprt"));
