@@ -83,9 +83,12 @@ void CreateOver(const QString& path, const StateImage& image) {
     if (!file.IsOpen())
         throw SystemError(path, Done(), errno);
     Write(image, file.Get(), path);
+    if (!CopyAttributes(former.file.Get(), status, file.Get()) || gFileOps->Sync(file.Get()) != 0)
+        throw SystemError(path, Done(), errno);
     bool placed = false;
-    if (!CopyAttributes(former.file.Get(), status, file.Get()) || gFileOps->Sync(file.Get()) != 0 ||
-        !file.PlaceOver(placed))
+    // If only the folder's sync failed, the new document has its name. After a power failure it may
+    // be the former one again, and that is whole as well.
+    if (!file.PlaceOver(placed) && !placed)
         throw SystemError(path, Done(), errno);
 }
 

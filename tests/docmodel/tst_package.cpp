@@ -193,6 +193,31 @@ private Q_SLOTS:
         QCOMPARE(AllParts(path_).value(kDocumentPart), parts[3].second);
     }
 
+    void ReplacingFailsOnlyIfTheFormerDocumentStays() {
+        const QByteArray before = FileBytes(path_);
+        int calls = 0;
+        {
+            const FaultyDisk disk;
+            PackageWriter::Create(path_, {{"a", "b"}}, true);
+            calls = disk.Calls();
+        }
+        for (int failed = 0; failed < calls; ++failed) {
+            WriteBytes(path_, before);
+            QString error;
+            {
+                const FaultyDisk disk(failed, FaultyDisk::Fault::Fail);
+                error = ErrorOf([&] { PackageWriter::Create(path_, {{"a", "b"}}, true); });
+            }
+            // The last call syncs the folder, when the new document has its name already.
+            QCOMPARE(error.isEmpty(), failed == calls - 1);
+            if (error.isEmpty())
+                QCOMPARE(AllParts(path_).value("a"), QByteArray("b"));
+            else
+                QCOMPARE(FileBytes(path_), before);
+            QCOMPARE(FolderOfFile(path_), QStringList(QStringLiteral("gear.tfmprt")));
+        }
+    }
+
     void CreatingOverAnExistingFileNeedsReplace() {
         const QByteArray before = FileBytes(path_);
         const QString error = ErrorOf([&] { PackageWriter::Create(path_, {{"a", "b"}}); });
