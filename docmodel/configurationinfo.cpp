@@ -49,10 +49,13 @@ QByteArray ConfigurationInfo::GetStamp() {
     return Bound().StampAtOpen();
 }
 
+// By its id, which it keeps when it is renamed; rows of other writers may have none.
 int ConfigurationInfo::IndexIn(const DocumentPart& tables) const {
+    const bool hasId = configuration_.id != 0;
     const QList<StoredConfiguration> rows = tables.Configurations();
     for (int index = 0; index < rows.size(); ++index)
-        if (rows[index].id == configuration_.id && rows[index].name == configuration_.name)
+        if (rows[index].id == configuration_.id &&
+            (hasId || rows[index].name == configuration_.name))
             return index;
     return -1;
 }
@@ -64,8 +67,8 @@ void ConfigurationInfo::Save() {
     const int index = IndexIn(newest);
     if (index < 0)
         throw FailedError(path_.given, QStringLiteral("saved"),
-                          QStringLiteral("its configuration %1 was renamed or deleted since it was "
-                                         "opened. Open it again and repeat the change")
+                          QStringLiteral("its configuration %1 is gone since it was opened. "
+                                         "Open it again and repeat the change")
                               .arg(configuration_.name));
     if (edits.IsChanged()) {
         change.RequireUnchanged(StampOf(newest.ConfigurationProperties(index)), edits.StampAtOpen(),

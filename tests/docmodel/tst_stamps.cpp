@@ -217,17 +217,45 @@ private Q_SLOTS:
                  "of B");
     }
 
-    void AConfigurationThatIsGoneOrChangedRefusesItsSet() {
-        const auto deleted = OpenFile(path_)->GetCustomProperties(0);
-        const auto renamed = OpenFile(path_)->GetCustomProperties(1);
+    void AConfigurationsSetIsSavedAlsoWhenItWasRenamed() {
+        const auto set = OpenFile(path_)->GetCustomProperties(0);
         const auto file = OpenFile(path_);
-        file->RenameConfiguration(1, "C");
-        file->DeleteConfiguration(0, kDelete);
+        QCOMPARE(file->RenameConfiguration(0, "C"), 0);
+        QCOMPARE(file->RenameConfiguration(1, "A"), 0);
         file->Save();
-        QVERIFY(deleted->SetCustomProperty("p", 1.0));
-        QCOMPARE(Refusal([&] { deleted->Save(); }), "refused");
+        QVERIFY(set->SetCustomProperty("p", 2.0));
+        set->Save();
+        const auto saved = OpenFile(path_);
+        QCOMPARE(ConfigurationNames(*saved), QStringList({"C", "A"}));
+        QCOMPARE(saved->GetCustomProperties(0)->GetCustomProperty(0).value, QVariant(2.0));
+        QCOMPARE(saved->GetCustomProperties(1)->GetCustomCount(), 0);
+    }
+
+    void AConfigurationWithoutAnIdIsKnownByItsName() {
+        WriteTables(path_, Tables("<configurations><configuration name='A'/>"
+                                  "<configuration name='B'/></configurations>"));
+        const auto kept = OpenFile(path_)->GetCustomProperties(1);
+        const auto renamed = OpenFile(path_)->GetCustomProperties(0);
+        QVERIFY(kept->SetCustomProperty("p", "of B"));
+        kept->Save();
+        QCOMPARE(OpenFile(path_)->GetCustomProperties(1)->GetCustomCount(), 1);
+        QCOMPARE(OpenFile(path_)->GetCustomProperties(0)->GetCustomCount(), 0);
+        const auto file = OpenFile(path_);
+        QCOMPARE(file->RenameConfiguration(0, "C"), 0);
+        file->Save();
         QVERIFY(renamed->SetCustomProperty("p", 1.0));
         QCOMPARE(Refusal([&] { renamed->Save(); }), "refused");
+    }
+
+    void AConfigurationThatIsGoneOrChangedRefusesItsSet() {
+        const auto deleted = OpenFile(path_)->GetCustomProperties(0);
+        const auto file = OpenFile(path_);
+        QCOMPARE(file->DeleteConfiguration(0, kDelete), 0);
+        QCOMPARE(file->RenameConfiguration(1, "A"), 0);
+        file->Save();
+        QCOMPARE(ConfigurationNames(*file), QStringList("A"));  // another one of that name
+        QVERIFY(deleted->SetCustomProperty("p", 1.0));
+        QCOMPARE(Refusal([&] { deleted->Save(); }), "refused");
         const auto one = OpenFile(path_)->GetCustomProperties(0);
         const auto other = OpenFile(path_)->GetCustomProperties(0);
         QCOMPARE(one->GetStamp(), other->GetStamp());
