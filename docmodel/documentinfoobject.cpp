@@ -59,7 +59,10 @@ DocumentInfoObject::State& DocumentInfoObject::Bound() {
 void DocumentInfoObject::SetField(SummaryField field, const QString& text) {
     State& state = Bound();
     RequireXmlText(text, path_.given, NameOf(field));
-    state.summary[size_t(field)] = WithXmlLineEnds(text);
+    const QString stored = WithXmlLineEnds(text);
+    const QString& atOpen = state.summaryAtOpen[size_t(field)];
+    // What is stored may hold other line ends than are written: given back, it is no change.
+    state.summary[size_t(field)] = WithXmlLineEnds(atOpen) == stored ? atOpen : stored;
 }
 
 QString DocumentInfoObject::GetTitle() {

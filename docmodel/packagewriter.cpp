@@ -3,6 +3,7 @@
 #include <QLoggingCategory>
 #include <algorithm>
 #include <cerrno>
+#include <new>
 #include <vector>
 
 #include "docmodel/compaction.h"
@@ -190,6 +191,8 @@ void PackageWriter::Data::CompactIfWorth() {
             CompactPackage(saved, realPath);
     } catch (const DocumentError& error) {
         qCDebug(packageLog).noquote() << error.Description();
+    } catch (const std::bad_alloc&) {
+        qCDebug(packageLog) << "No memory to compact" << saved.path;
     }
 }
 

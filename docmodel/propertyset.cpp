@@ -18,6 +18,17 @@ const CustomProperty& PropertySet::At(int index, const QString& file) const {
     return current_[index];
 }
 
+namespace {
+
+// What is stored may hold other line ends than are written.
+bool IsSame(const CustomProperty& property, const PropertyValue& value) {
+    const PropertyValue former{property.value, PropertyType(property.type)};
+    return former == value || (former.type == kText && value.type == kText &&
+                               WithXmlLineEnds(former.value.toString()) == value.value.toString());
+}
+
+}  // namespace
+
 bool PropertySet::Set(const QString& name, const QVariant& value) {
     const std::optional<PropertyValue> stored = PropertyValueFor(value);
     if (name.isEmpty() || !IsXmlText(name) || !stored)
@@ -27,7 +38,7 @@ bool PropertySet::Set(const QString& name, const QVariant& value) {
         current_.append({name, stored->value, stored->type});
     } else {
         CustomProperty& property = current_[index];
-        if (PropertyValue{property.value, PropertyType(property.type)} == *stored)
+        if (IsSame(property, *stored))
             return true;
         property.value = stored->value;
         property.type = stored->type;

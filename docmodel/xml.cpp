@@ -42,6 +42,13 @@ QByteArray AsUtf8(QByteArray bytes) {
     return QUtf8StringView(bytes).isValidUtf8() ? bytes : QByteArray();
 }
 
+// XML's line ends are line feeds, before anything else is looked at. What is a carriage return
+// behind the parser was written as a reference.
+void TakeLineEnds(QByteArray& bytes) {
+    if (bytes.contains('\r'))
+        bytes.replace("\r\n", "\n").replace('\r', '\n');
+}
+
 bool TakesTooMuch(QByteArrayView bytes) {
     if (bytes.size() <= kUncountedBytes)
         return false;
@@ -157,6 +164,7 @@ XmlPart XmlPart::Parse(QByteArray bytes, const QString& file, QByteArrayView par
         throw XmlError(file, part, QStringLiteral("is empty or no text in UTF-8"));
     if (const QString fault = LimitFault(parsed.bytes_); !fault.isEmpty())
         throw XmlError(file, part, fault);
+    TakeLineEnds(parsed.bytes_);
     if (!EndsInTag(parsed.bytes_))
         throw XmlError(file, part, QStringLiteral("does not end in a tag"));
     const pugi::xml_parse_result result = parsed.document_->load_buffer_inplace(
@@ -186,7 +194,7 @@ QByteArray XmlPart::Bytes() const {
     writer.bytes = "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n";
     document_->save(writer, "", pugi::format_indent | pugi::format_no_declaration,
                     pugi::encoding_utf8);
-    return writer.bytes;
+    return writer.bytes.replace("\r", "&#13;");  // which the writer leaves as it is in texts
 }
 
 bool IsXmlText(const QString& text) {

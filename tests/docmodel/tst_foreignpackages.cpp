@@ -138,6 +138,34 @@ private Q_SLOTS:
             QVERIFY2(core.contains(kept), kept);
     }
 
+    void StoredLineEndsThatAreNotEditedStay() {
+        const QByteArray custom =
+            "<Properties xmlns='http://schemas.openxmlformats.org/officeDocument/2006/"
+            "custom-properties' xmlns:vt='http://schemas.openxmlformats.org/officeDocument/2006/"
+            "docPropsVTypes'><property pid='2' name='lines'><vt:lpwstr>one&#13;&#10;two&#13;"
+            "</vt:lpwstr></property></Properties>";
+        const QByteArray core =
+            "<coreProperties xmlns='http://schemas.openxmlformats.org/package/2006/metadata/"
+            "core-properties'><title xmlns='http://purl.org/dc/elements/1.1/'>one&#13;two</title>"
+            "</coreProperties>";
+        PackageWriter::Create(path_, {{"docProps/core.xml", core}, {"docProps/custom.xml", custom}},
+                              true);
+        const auto info = OpenInfo(path_);
+        const QByteArray stamp = info->GetStamp();
+        const QString lines = info->GetCustomProperty(0).value.toString();
+        QCOMPARE(lines, "one\r\ntwo\r");
+        QVERIFY(info->SetCustomProperty("lines", lines));
+        QVERIFY(info->SetCustomProperty("lines", "one\ntwo\n"));  // as a text box gives it back
+        info->SetTitle(info->GetTitle());
+        info->Save();
+        QCOMPARE(PartOf(path_, "docProps/custom.xml"), custom);
+        QCOMPARE(OpenInfo(path_)->GetTitle(), "one\rtwo");
+        QCOMPARE(OpenInfo(path_)->GetStamp(), stamp);
+        QVERIFY(info->SetCustomProperty("lines", "one\ntwo\nthree"));
+        info->Save();
+        QVERIFY(PartOf(path_, "docProps/custom.xml").contains("one\ntwo\nthree<"));
+    }
+
     void PropertiesWhoseNamesDifferInCaseAloneAreTwo() {
         const QByteArray head =
             "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n"
