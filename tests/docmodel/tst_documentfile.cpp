@@ -38,6 +38,30 @@ private:
     }
     static constexpr int kDelete = 2;
 
+    // Everything that needs a bound document.
+    static QList<std::function<void()>> Operations(DocumentFile& file) {
+        return {[&] { file.GetComponentCount(); },
+                [&] { file.GetConfigurationCount(); },
+                [&] { file.Save(); },
+                [&] { file.GetConfiguration(0); },
+                [&] { file.RenameConfiguration(0, "x"); },
+                [&] { file.GetConfigurationType(0); },
+                [&] { file.DeleteConfiguration(0, kDelete); },
+                [&] { file.GetHyperlinkCount(); },
+                [&] { file.GetHyperlink(0); },
+                [&] { file.SetHyperlink(0, "x"); },
+                [&] { file.SaveHyperlinks(); },
+                [&] { file.SetComponentPath(0, "/x"); },
+                [&] { file.GetCustomProperties(0); },
+                [&] { file.GetExternalReferenceCount(); },
+                [&] { file.SetExternalReferencePath(0, "/x"); },
+                [&] { file.IsCurrentFormat(); },
+                [&] { file.GetReferencesLocked(); },
+                [&] { file.GetComponent(0, QString()); },
+                [&] { file.GetExternalReference(0, QString()); },
+                [&] { file.GetStamp(Table::Components); }};
+    }
+
 private Q_SLOTS:
     void init() {
         path_ = temporary_.filePath(QString("%1.tfmasm").arg(QTest::currentTestFunction()));
@@ -150,8 +174,12 @@ private Q_SLOTS:
             QVERIFY(!ErrorOf([&] { file->GetHyperlink(index); }).isEmpty());
             QVERIFY(!ErrorOf([&] { file->SetHyperlink(index, "x"); }).isEmpty());
         }
-        QVERIFY(!ErrorOf([&] { file->GetConfiguration(5); }).isEmpty());
-        QVERIFY(!ErrorOf([&] { file->GetConfigurationType(-1); }).isEmpty());
+        for (const int index : {-1, 5, 1000}) {
+            QVERIFY(ErrorOf([&] { file->GetConfiguration(index); }).contains(path_));
+            QVERIFY(ErrorOf([&] { file->GetConfigurationType(index); }).contains(path_));
+            QVERIFY(!file->GetCustomProperties(index));
+        }
+        QVERIFY(file->GetCustomProperties(4));
     }
 
     void APathThatCantBeStoredIsRefused() {
@@ -174,8 +202,8 @@ private Q_SLOTS:
 
     void NothingWorksBeforeOpen() {
         const auto file = Access().MakeDocumentFile();
-        QVERIFY(!ErrorOf([&] { file->GetComponentCount(); }).isEmpty());
-        QVERIFY(!ErrorOf([&] { file->Save(); }).isEmpty());
+        for (const auto& operation : Operations(*file))
+            QVERIFY(ErrorOf(operation).contains("No document is open"));
         QCOMPARE(file->GetAccessState(path_), 0);
     }
 
@@ -184,18 +212,17 @@ private Q_SLOTS:
         file->SetComponentPath(0, "/new/x.tfmprt");
         const QByteArray before = FileBytes(path_);
         const QString missing = temporary_.filePath("missing.tfmasm");
-        QVERIFY(ErrorOf([&] { file->Open(missing); }).contains(missing));
-        QVERIFY(ErrorOf([&] { file->GetComponentCount(); }).contains(missing));
-        QVERIFY(!ErrorOf([&] { file->SetComponentPath(0, "/y"); }).isEmpty());
-        QVERIFY(!ErrorOf([&] { file->GetReferencesLocked(); }).isEmpty());
-        QVERIFY(!ErrorOf([&] { file->GetStamp(Table::Components); }).isEmpty());
-        QVERIFY(!ErrorOf([&] { file->GetCustomProperties(0); }).isEmpty());
-        QVERIFY(!ErrorOf([&] { file->IsCurrentFormat(); }).isEmpty());
-        QVERIFY(!ErrorOf([&] { file->Save(); }).isEmpty());
-        QVERIFY(!ErrorOf([&] { file->SaveHyperlinks(); }).isEmpty());
-        QCOMPARE(FileBytes(path_), before);
-        file->Open(path_);
-        QCOMPARE(file->GetComponent(0, QString()).path, "/lib/a.tfmprt");
+        for (const bool hyperlinks : {false, true}) {
+            const QString error =
+                ErrorOf([&] { hyperlinks ? file->OpenHyperlinks(missing) : file->Open(missing); });
+            QVERIFY(error.contains(missing));
+            for (const auto& operation : Operations(*file))
+                QVERIFY(ErrorOf(operation).contains(missing));
+            QCOMPARE(FileBytes(path_), before);
+            file->OpenHyperlinks(path_);
+            QCOMPARE(file->GetHyperlink(1), "notes.txt");
+            QCOMPARE(file->GetComponent(0, QString()).path, "/lib/a.tfmprt");
+        }
     }
 
     void OpeningAgainDropsUnsavedChanges() {
@@ -349,6 +376,15 @@ private Q_SLOTS:
         QCOMPARE(file->GetConfigurationCount(), 5);
     }
 
+    void AnotherModeDeletesNothing() {
+        const auto file = OpenFile(path_);
+        for (const int mode : {-1, 0, 1, 3})
+            QVERIFY(file->DeleteConfiguration(1, mode) != 0);
+        file->Save();
+        QCOMPARE(OpenFile(path_)->GetConfigurationCount(), 5);
+        QCOMPARE(file->DeleteConfiguration(1, kDelete), 0);
+    }
+
     void AConfigurationAddedLaterNeverGetsAFormerId() {
         const auto file = OpenFile(path_);
         QCOMPARE(file->DeleteConfiguration(1, kDelete), 0);
@@ -423,12 +459,42 @@ private Q_SLOTS:
         QVERIFY(!file->IsCurrentFormat());
         QCOMPARE(file->GetComponentCount(), 0);
         QCOMPARE(file->GetHyperlinkCount(), 0);
-        const auto info = OpenInfo(path_);
-        QCOMPARE(info->GetLockedBy(), "eva");
-        info->SetTitle("still old");
-        info->Save();
+        QCOMPARE(OpenInfo(path_)->GetLockedBy(), "eva");
+    }
+
+    void AnOldFormatStaysItWithAllItHolds_data() {
+        QTest::addColumn<std::function<void(const QString&)>>("change");
+        const auto add = [](const char* name, std::function<void(const QString&)> change) {
+            QTest::newRow(name) << std::move(change);
+        };
+        add("save", [](const QString& path) { OpenFile(path)->Save(); });
+        add("hyperlinks", [](const QString& path) { OpenFile(path)->SaveHyperlinks(); });
+        add("title", [](const QString& path) {
+            const auto info = OpenInfo(path);
+            info->SetTitle("new");
+            info->Save();
+            QCOMPARE(OpenInfo(path)->GetTitle(), "new");
+        });
+        add("lock", [](const QString& path) {
+            const auto info = OpenInfo(path);
+            info->SetLocked(true);
+            info->Save();
+            QVERIFY(OpenInfo(path)->GetLocked());
+        });
+    }
+    void AnOldFormatStaysItWithAllItHolds() {
+        QFETCH(std::function<void(const QString&)>, change);
+        WriteTables(path_, Tables("<components><component path='/a.tfmprt'/></components>"
+                                  "<old:table xmlns:old='urn:old'><old:row a='b'>text</old:row>"
+                                  "</old:table>",
+                                  "0"));
+        change(path_);
         QVERIFY(!OpenFile(path_)->IsCurrentFormat());
-        QVERIFY(PartOf(path_, kDocumentPart).contains("/a.tfmprt"));
+        const QByteArray part = PartOf(path_, kDocumentPart);
+        for (const char* kept :
+             {"version=\"0\"", "<component path=\"/a.tfmprt\"", "<old:table xmlns:old=\"urn:old\">",
+              "<old:row a=\"b\">text</old:row>"})
+            QVERIFY2(part.contains(kept), part.constData());
     }
 
     void ANewerFormatSaysSo() {

@@ -1,5 +1,8 @@
 // The values of a settings key, as the panes read and write them through the library.
 
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
 #include <QTest>
 #include <algorithm>
 
@@ -63,6 +66,39 @@ private Q_SLOTS:
         QCOMPARE(searcher->SetRegistryValue("a", "b"), 0);
         QVERIFY(searcher->DeleteRegistryValue("a") != 0);
         QCOMPARE(searcher->DeleteRegistryValue("a"), 0);
+    }
+
+    void ValuesAreEnumeratedInTheKeysOrder() {
+        const QString key = "Software\\Test\\Order";
+        const auto searcher = Opened(key);
+        for (const char* name : {"zeta", "middle", "Alpha"})
+            QCOMPARE(searcher->SetRegistryValue(name, QString("of ") + name), 0);
+        QVERIFY(searcher->DeleteRegistryValue("middle") != 0);
+        QCOMPARE(searcher->SetRegistryValue("zeta", "changed"), 0);  // stays where it is
+        const auto other = Opened(key);
+        QCOMPARE(other->GetRegistryValueCount(), 2);
+        QCOMPARE(other->EnumRegistryValue(0), std::make_pair(QString("zeta"), QString("changed")));
+        QCOMPARE(other->EnumRegistryValue(1),
+                 std::make_pair(QString("Alpha"), QString("of Alpha")));
+        QCOMPARE(other->EnumRegistryValue(2), std::make_pair(QString(), QString()));
+    }
+
+    void AKeyThatDoesNotOpenUnbindsTheFormer() {
+        const auto searcher = Opened("Software\\Test\\Former");
+        QCOMPARE(searcher->SetRegistryValue("a", "b"), 0);
+        const QString store =
+            QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+            "/Tessaforma/TessaformaDocbench.ini";
+        QVERIFY(QFile::rename(store, store + ".away"));
+        QVERIFY(QDir().mkdir(store));  // no file that could be read
+        QVERIFY(searcher->OpenRegistryKey("Software\\Test\\Next") != 0);
+        QVERIFY(QDir().rmdir(store));
+        QVERIFY(QFile::rename(store + ".away", store));
+        QCOMPARE(searcher->GetRegistryValue("a"), QString());
+        QCOMPARE(searcher->GetRegistryValueCount(), 0);
+        QVERIFY(searcher->SetRegistryValue("a", "c") != 0);
+        QCOMPARE(searcher->DeleteRegistryValue("a"), 0);
+        QCOMPARE(Opened("Software\\Test\\Former")->GetRegistryValue("a"), "b");
     }
 
     void KeysAreApartAndBelowTheCurrentUser() {

@@ -167,6 +167,11 @@ private Q_SLOTS:
         QCOMPARE(TargetOf(below, "http://s//web/asm/"), QString("http://s//web/asm/sub/a.tfmprt"));
         const QString above = MakeHolder(Path("i.tfmasm"), "../lib/a.tfmprt");
         QCOMPARE(TargetOf(above, "http://s//web/asm/"), QString("http://s//web/lib/a.tfmprt"));
+        const auto file = OpenFile(above);
+        QCOMPARE(file->GetExternalReference(0, "http://s//web/asm/").path,
+                 QString("http://s//web/lib/a.tfmprt"));
+        QCOMPARE(file->GetExternalReference(0, QString()).path,
+                 QDir::cleanPath(Path("../lib/a.tfmprt")));
         const QString far = MakeHolder(Path("j.tfmasm"), "../../../../a.tfmprt");
         QCOMPARE(TargetOf(far, "http://s/web/asm/").left(9), QString("http://s/"));
     }
