@@ -15,7 +15,9 @@
 #include "services/documentlibrary.h"
 #include "services/language.h"
 #include "services/paths.h"
+#include "services/scratch.h"
 #include "services/seams.h"
+#include "services/webcopies.h"
 #include "shell/picturestore.h"
 
 namespace docbench {
@@ -31,8 +33,12 @@ int RunTree(int argc, char* argv[], const CommandLine& line) {
     DocumentLibrary library;
     gSeams.documents = library.Access();
     LoadResources();
+    PrepareScratch();
+    UseWebFolders();
     const QString path = IsWebPath(line.file) ? line.file : QFileInfo(line.file).absoluteFilePath();
-    return PrintTree(path, line.json ? TreeFormat::Json : TreeFormat::Text);
+    const int result = PrintTree(path, line.json ? TreeFormat::Json : TreeFormat::Text);
+    DeleteScratch();
+    return result;
 }
 
 int WriteScreenshot(MainWindow& window, const QString& file) {

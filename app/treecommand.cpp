@@ -5,8 +5,11 @@
 #include <QTextStream>
 
 #include "app/exitcodes.h"
+#include "services/docaccess.h"
 #include "services/language.h"
+#include "services/paths.h"
 #include "services/texts.h"
+#include "services/webcopies.h"
 #include "shell/referencetree.h"
 #include "shell/treepictures.h"
 
@@ -99,7 +102,10 @@ void PrintJson(const CellNodes& nodes, QTextStream& out) {
 int PrintTree(const QString& path, TreeFormat format) {
     ReferenceTree tree;
     if (!tree.Load(path)) {
-        QTextStream(stderr) << Format(Text::DocumentNotFound, path) << '\n';
+        QTextStream err(stderr);
+        err << Format(Text::DocumentNotFound, path) << '\n';
+        if (IsWebPath(path) && gWebFolder)
+            err << gWebFolder->LastError() << '\n';
         return kExitNoDocument;
     }
     QTextStream out(stdout);

@@ -13,8 +13,6 @@ namespace {
 
 enum Result { kExtracted = 0, kFailed = -1, kNoPreview = -2 };
 
-constexpr qint64 kMaxPictureBytes = 64 << 20;
-
 // The names that writers without relationships give it.
 constexpr const char* kUsualNames[] = {"docProps/thumbnail.png", "docProps/thumbnail.jpeg",
                                        "docProps/thumbnail.jpg", "docProps/thumbnail.bmp"};
@@ -48,7 +46,7 @@ int PreviewExtractorObject::ExtractPreview(const QString& path, const QString& b
         const QByteArray part = PreviewPart(package);
         if (part.isEmpty())
             return kNoPreview;
-        const QImage picture = ReadPicture(package.ReadPart(part, kMaxPictureBytes));
+        const QImage picture = ReadPicture(package.ReadPart(part, kMaxPreviewBytes));
         if (picture.isNull())
             return kFailed;
         return WriteBitmap(picture, bitmapPath) ? kExtracted : kFailed;

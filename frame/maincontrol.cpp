@@ -13,6 +13,7 @@
 #include "frame/statusline.h"
 #include "services/helpviewer.h"
 #include "services/language.h"
+#include "services/loggingmanager.h"
 #include "services/openexternal.h"
 #include "services/paths.h"
 #include "services/scratch.h"
@@ -63,6 +64,7 @@ Maincontrol::~Maincontrol() {
         gSeams.help->Close();
     ui_->UserControl11->ReleasePanes();  // before the local copies that they may work on go away
     DeleteScratch();
+    gLogger.reset();
 }
 
 void Maincontrol::showResult(const QString& request, const QString& path, const QString& partName) {
@@ -115,6 +117,8 @@ void Maincontrol::focusInEvent(QFocusEvent* event) {
 }
 
 void Maincontrol::RouteCommand(const QString& code) {
+    if (code == QLatin1String("HELP") || code == QLatin1String("ABOUT"))
+        Log([&](LoggingManager& log) { log.LogCommand(code); });
     if (code == QLatin1String("HELP"))
         return ShowHelp();
     if (code == QLatin1String("ABOUT"))

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "platform/filefilter.h"
+#include "platform/passworddialog.h"
 
 namespace docbench {
 namespace {
@@ -91,10 +92,11 @@ private:
 }  // namespace
 
 Dialogs::Answer DesktopDialogs::Box(const QString& text, Icon icon, const QString& title,
-                                    Buttons buttons) {
+                                    Buttons buttons, const QString& detail) {
     const NormalCursor normal;
     QMessageBox box(IconOf(icon), title, text, ButtonsOf(buttons), Owner());
     box.setTextFormat(Qt::PlainText);  // a file name is no markup
+    box.setDetailedText(detail);
     if (buttons == Buttons::YesNo)
         box.setEscapeButton(QMessageBox::No);
     return AnswerOf(box.exec());
@@ -111,6 +113,15 @@ QString DesktopDialogs::OpenFile(const QString& title, const QString& filter) {
 QString DesktopDialogs::BrowseFolder(const QString& title, const QString& start) {
     const NormalCursor normal;
     return QFileDialog::getExistingDirectory(Owner(), title, start);
+}
+
+std::optional<Dialogs::Password> DesktopDialogs::AskPassword(const QString& server,
+                                                             const QString& realm, bool refused) {
+    const NormalCursor normal;
+    PasswordDialog dialog(server, realm, refused, Owner());
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.Answer();
 }
 
 }  // namespace docbench

@@ -8,6 +8,7 @@
 #include <QDBusVariant>
 
 #include "platform/componentplugins.h"
+#include "platform/urlfileopen.h"
 
 namespace docbench {
 namespace {
@@ -69,8 +70,19 @@ std::unique_ptr<OutsideObject> DesktopOutsideObjects::Attach(const QString& prog
     return std::make_unique<DBusOutsideObject>(bus, programId);
 }
 
+std::unique_ptr<OutsideObject> DesktopOutsideObjects::Start(const QString& programId) {
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    if (bus.isConnected() && !IsRunning(bus, programId))
+        bus.interface()->startService(programId);  // the bus knows of it if it is installed
+    return Attach(programId);
+}
+
+// A plug-in comes before what the program brings itself.
 std::unique_ptr<QObject> DesktopOutsideObjects::Create(const QString& programId) {
-    return CreateComponent(ComponentFolder(), programId);
+    std::unique_ptr<QObject> made = CreateComponent(ComponentFolder(), programId);
+    if (!made && programId == QLatin1String("URLFileOpenControl.URLFileOpen"))
+        made = std::make_unique<URLFileOpen>();
+    return made;
 }
 
 }  // namespace docbench

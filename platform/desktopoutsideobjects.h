@@ -11,6 +11,7 @@ namespace docbench {
 class DesktopOutsideObjects : public OutsideObjects {
 public:
     std::unique_ptr<OutsideObject> Attach(const QString& programId) override;
+    std::unique_ptr<OutsideObject> Start(const QString& programId) override;
     std::unique_ptr<QObject> Create(const QString& programId) override;
 };
 

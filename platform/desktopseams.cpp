@@ -1,9 +1,10 @@
 #include "platform/desktopseams.h"
 
-#include "platform/desktopoutsideobjects.h"
 #include "platform/desktopdialogs.h"
+#include "platform/desktopoutsideobjects.h"
 #include "platform/desktopshellexecute.h"
 #include "platform/helpwindow.h"
+#include "platform/secretkeyring.h"
 #include "services/documentlibrary.h"
 
 namespace docbench {
@@ -12,6 +13,7 @@ struct DesktopSeams::Parts {
     DesktopDialogs dialogs;
     DocumentLibrary library;
     HelpWindow help;
+    SecretKeyRing keyring;
     DesktopOutsideObjects outside;
     DesktopShellExecute shell;
 };
@@ -20,6 +22,7 @@ DesktopSeams::DesktopSeams() : parts_(std::make_unique<Parts>()), former_(gSeams
     gSeams = {.dialogs = &parts_->dialogs,
               .documents = parts_->library.Access(),
               .help = &parts_->help,
+              .keyring = &parts_->keyring,
               .outside = &parts_->outside,
               .shell = &parts_->shell};
 }

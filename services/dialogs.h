@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 namespace docbench {
 
@@ -29,14 +30,25 @@ public:
     }
 
     // Shows a message and waits for the answer. Closing the box answers Cancel where there is such
-    // a button, else No, else Ok.
+    // a button, else No, else Ok. A
+    // `detail`, such as the reason of a failure, `detail` as a reason can be opened below the text.
     virtual Answer Box(const QString& text, Icon icon, const QString& title,
-                       Buttons buttons = Buttons::Ok) = 0;
+                       Buttons buttons = Buttons::Ok, const QString& detail = {}) = 0;
 
     // `filter` is in the form "Label|*.a;*.b|Label|*.c". Empty on cancel.
     virtual QString OpenFile(const QString& title, const QString& filter) = 0;
     virtual QString BrowseFolder(const QString& title,
                                  const QString& start) = 0;  // empty on cancel
+
+    struct Password {
+        QString user;
+        QString password;
+        bool remember = false;  // in the desktop's keyring
+    };
+    // Asks for user and password of a server ("https://host:port") and its realm; `refused` says
+    // that the last answer was wrong. None on cancel.
+    virtual std::optional<Password> AskPassword(const QString& server, const QString& realm,
+                                                bool refused) = 0;
 };
 
 }  // namespace docbench

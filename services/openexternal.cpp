@@ -10,6 +10,7 @@
 #include "services/errorstate.h"
 #include "services/helpviewer.h"
 #include "services/language.h"
+#include "services/loggingmanager.h"
 #include "services/outsideobjects.h"
 #include "services/paths.h"
 #include "services/seams.h"
@@ -92,6 +93,7 @@ bool IsHostedByCad() {
 void OpenDocumentExternally(const QString& verb, const QString& file, const QString& parameters,
                             const QString& folder, int showCommand) {
     if (const std::optional<int> cadType = CadTypeOf(file)) {
+        Log([](LoggingManager& log) { log.LogCommand(QStringLiteral("CMDTESSACAD")); });
         ErrorState untold;  // what goes wrong with the CAD application is not reported here
         untold.Run([&] { OpenDocument(file, *cadType); });
         return;

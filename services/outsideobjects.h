@@ -22,6 +22,8 @@ public:
     virtual ~OutsideObjects() = default;
     // The running program registered under the id, or null. Never starts one.
     virtual std::unique_ptr<OutsideObject> Attach(const QString& programId) = 0;
+    // The same, starting the program if it does not run and the desktop knows how to.
+    virtual std::unique_ptr<OutsideObject> Start(const QString& programId) = 0;
     // A new object of the component (a plug-in) known under the id, driven by the names of its
     // properties and invokable methods; null when there is none or it can't be made.
     virtual std::unique_ptr<QObject> Create(const QString& programId) = 0;

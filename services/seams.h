@@ -6,6 +6,7 @@ namespace docbench {
 class Dialogs;
 class DocumentAccess;
 class HelpViewer;
+class KeyRing;
 class OutsideObjects;
 class ShellExecute;
 
@@ -15,6 +16,7 @@ struct Seams {
     Dialogs* dialogs = nullptr;           // until they are set, messages go to the log
     DocumentAccess* documents = nullptr;  // null when the document library could not be loaded
     HelpViewer* help = nullptr;
+    KeyRing* keyring = nullptr;  // null: passwords are kept in memory alone
     OutsideObjects* outside = nullptr;
     ShellExecute* shell = nullptr;
 };

@@ -3,24 +3,25 @@
 #include "services/documentlibrary.h"
 #include "services/errorstate.h"
 #include "services/paths.h"
+#include "services/webcopies.h"
 #include "shell/locking.h"
 
 namespace docbench {
 
 namespace {
 
-void ReadTables(const QString& path, DocumentFacts& facts) {
+void ReadTables(const QString& path, const QString& local, DocumentFacts& facts) {
     const auto file = Documents().MakeDocumentFile();
-    const QString noWebFolder;
-    file->Open(path);
+    const QString webFolder = IsWebPath(path) ? UrlFolder(path) : QString();
+    file->Open(local);
     facts.reached = ReadStage::Components;
     const int componentCount = file->GetComponentCount();
     for (int i = 0; i < componentCount; ++i)
-        facts.components.push_back(file->GetComponent(i, noWebFolder));
+        facts.components.push_back(file->GetComponent(i, webFolder));
     facts.reached = ReadStage::ExternalReferences;
     const int externalCount = file->GetExternalReferenceCount();
     for (int i = 0; i < externalCount; ++i)
-        facts.externals.push_back(file->GetExternalReference(i, noWebFolder));
+        facts.externals.push_back(file->GetExternalReference(i, webFolder));
     facts.reached = ReadStage::ReferencesLocked;
     facts.referencesLocked = file->GetReferencesLocked();
 }
@@ -29,10 +30,11 @@ DocumentFacts Read(const QString& path) {
     DocumentFacts facts;
     facts.reached = ReadStage::Opening;
     try {
+        const QString local = LocalCopyOf(path);
         facts.locked = ReadLockState(path);
-        facts.exists = FileExists(path);
+        facts.exists = !local.isEmpty() && FileExists(local);
         if (facts.exists)
-            ReadTables(path, facts);
+            ReadTables(path, local, facts);
         facts.reached = ReadStage::Complete;
     } catch (const std::exception& error) {
         facts.error = DescriptionOf(error);

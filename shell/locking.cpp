@@ -7,6 +7,7 @@
 #include "services/seams.h"
 #include "services/texts.h"
 #include "services/username.h"
+#include "services/webcopies.h"
 #include "shell/treepictures.h"
 
 namespace docbench {
@@ -48,7 +49,7 @@ bool ChangeLock(DocumentInfo& info, bool wantLocked, const QString& path) {
 std::optional<bool> ReadLockState(const QString& path) {
     try {
         const auto info = Documents().MakeDocumentInfo();
-        if (info->Open(path))
+        if (info->Open(LocalCopyOf(path)))
             return info->GetLocked();
     } catch (const std::exception&) {
         // Whatever keeps the record from being read, it was not opened: the caller's state stays.
@@ -70,14 +71,16 @@ void ReportAccessState(int code, const QString& path) {
 void ApplyLock(ReferenceTree& tree, bool wantLocked, int node) {
     const QString path = tree.Nodes().At(node).tag;
     try {
-        const int code = Documents().MakeDocumentFile()->GetAccessState(path);
+        const QString local = LocalCopyOf(path);
+        const int code = Documents().MakeDocumentFile()->GetAccessState(local);
         if (code != kMayBeWritten)
             return ReportAccessState(code, path);
         const auto info = Documents().MakeDocumentInfo();
-        if (!info->Open(path))
+        if (!info->Open(local))
             return;
         const bool locked = ChangeLock(*info, wantLocked, path);
         info->Save();  // writes the record whether or not the lock changed
+        UploadIfWeb(path);
         tree.currentLocked = locked;
     } catch (const std::exception& error) {
         return Warn(DescriptionOf(error));

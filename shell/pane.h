@@ -27,8 +27,8 @@ public:
 
     virtual void Enable(bool) {}                      // editing, by the document's lock
     virtual void ReloadProperties(const QString&) {}  // the document's record has changed
-    virtual void ForgetDocuments() {}  // another document is about to be opened
-    virtual void ReleaseAll() {}       // stops a running search and frees what it holds
+    virtual void ForgetDocuments() {}                 // another document is about to be opened
+    virtual void ReleaseAll() {}  // stops a running search and frees what it holds
     virtual QString HelpTopic() const { return {}; }  // its page in the help; empty: the contents
 
     // The object whose property "Caption" shows the pane's status; null for none.

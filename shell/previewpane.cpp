@@ -12,11 +12,13 @@
 #include "services/documentlibrary.h"
 #include "services/errorstate.h"
 #include "services/language.h"
+#include "services/loggingmanager.h"
 #include "services/outsideobjects.h"
 #include "services/paths.h"
 #include "services/scratch.h"
 #include "services/seams.h"
 #include "services/texts.h"
+#include "services/webcopies.h"
 #include "shell/picturebox.h"
 #include "shell/picturestore.h"
 #include "shell/viewer.h"
@@ -116,7 +118,7 @@ PreviewPane::FileState PreviewPane::StateOf(const QString& local) {
 }
 
 void PreviewPane::ShowPreview(const QString& path) {
-    const QString& local = path;
+    const QString local = LocalCopyOf(path);
     int result = -1;
     ErrorState errors;
     if (ShowsAlready(path, local))
@@ -129,6 +131,9 @@ void PreviewPane::ShowPreview(const QString& path) {
         errors.Run([&] {
             Label2->hide();
             ShowViewer(path, local);
+            Log([&](LoggingManager& log) {
+                log.LogPreviewInfo(local, IsViewerAvailable(), true, UseViewer);
+            });
             AddToGrid(gTempBitmap, path);
             Image1->show();
         });
@@ -186,7 +191,7 @@ void PreviewPane::PlacePicture(const QString& bitmap, const QString& path) {
     box.SetPicture(picture);
     box.setToolTip(path);
     box.setAccessibleName(FileNameOf(path));
-    taken_[size_t(previewNext)] = StateOf(path);
+    taken_[size_t(previewNext)] = StateOf(LocalCopyOf(path));
 }
 
 void PreviewPane::FrameOnly(int index) {

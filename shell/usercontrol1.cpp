@@ -7,15 +7,18 @@
 #include "services/docaccess.h"
 #include "services/helpviewer.h"
 #include "services/language.h"
+#include "services/loggingmanager.h"
 #include "services/openexternal.h"
 #include "services/paths.h"
 #include "services/scratch.h"
 #include "services/seams.h"
 #include "services/settingsstore.h"
 #include "services/texts.h"
+#include "services/webcopies.h"
 #include "services/webdocument.h"
 #include "shell/languagefonts.h"
 #include "shell/locking.h"
+#include "shell/openurlfrm.h"
 #include "shell/pane.h"
 #include "shell/pathdrop.h"
 #include "shell/picturestore.h"
@@ -57,6 +60,7 @@ UserControl1::UserControl1(QWidget* parent)
     ApplyLanguageFonts(*this);
     ConnectTree();
     ConnectWaysIn();
+    UseWebFolders();
     PrepareScratch();
     AddPane(PaneId::Preview, new PreviewPane);
 }
@@ -178,14 +182,16 @@ void UserControl1::ShowPane(const PaneCommand& command, const QString& path,
 }
 
 void UserControl1::SetCurrentFunction(const QString& request) {
+    Log([&](LoggingManager& log) { log.LogCommand(request); });
     if (request == QLatin1String("OPEN"))
         return Browse();
+    if (request == QLatin1String("OPENURL"))
+        return OpenFromWebFolder();
     if (request == QLatin1String("LOCK") || request == QLatin1String("UNLOCK"))
         return LockSelected(request == QLatin1String("LOCK"));
     if (request == QLatin1String("LOCKCHILDREN") || request == QLatin1String("UNLOCKCHILDREN"))
         return LockBelowSelected(request == QLatin1String("LOCKCHILDREN"));
-    if (request != QLatin1String("OPENURL"))  // an action too; web folders can't be opened yet
-        currentFunction_ = request;
+    currentFunction_ = request;
     showResult(request, m_partfilename, currentTitle);
 }
 
@@ -283,13 +289,27 @@ void UserControl1::OpenDocument(const QString& path) {
 void UserControl1::Browse() {
     const QString name = gSeams.dialogs->OpenFile(Tr(Text::OpenDocumentTitle), gOpenFilter);
     if (!name.isEmpty() && DocTypeOf(name) != DocType::None) {
+        Log([&](LoggingManager& log) { log.LogDocumentOpen(name); });
         ui_->filepathCombo->setEditText(name);
         gWebDocument = false;
+        gWebCopies.clear();
         LeaveFileOperation();
         OpenDocument(name);
         ui_->filepathCombo->InsertFirst(ui_->filepathCombo->currentText());
     }
     ShiftPressed = false;
+}
+
+void UserControl1::OpenFromWebFolder() {
+    const QString url = PickWebDocument(this);
+    if (url.isEmpty() || DocTypeOf(url) == DocType::None)
+        return;
+    Log([&](LoggingManager& log) { log.LogDocumentOpen(url); });
+    ui_->filepathCombo->setEditText(url);
+    gWebDocument = true;
+    LeaveFileOperation();
+    OpenDocument(url);
+    ui_->filepathCombo->InsertFirst(url);
 }
 
 void UserControl1::OpenAndList(const QString& path) {
@@ -402,6 +422,7 @@ void UserControl1::ReplaceSelected() {
     if (node == 0)
         return;
     currentFunction_ = QStringLiteral("REPLACE");
+    Log([&](LoggingManager& log) { log.LogCommand(currentFunction_); });
     // Not the current document: a missing one, which is what is replaced most, never becomes it.
     showResult(currentFunction_, tree_->Nodes().At(node).tag, currentTitle);
 }

@@ -95,6 +95,7 @@ private:
 
     void OpenDocument(const QString& path);
     void Browse();
+    void OpenFromWebFolder();
     void OpenAndList(const QString& path);  // typed or dropped
     void LeaveFileOperation();
     void LoadTree(const QString& path);

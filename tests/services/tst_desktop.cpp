@@ -73,7 +73,8 @@ private Q_SLOTS:
                                   Qt::LeftButton);
         });
         DesktopDialogs dialogs;
-        const Answer answer = dialogs.Box("<b>a</b>", Dialogs::Icon::Exclamation, "Title", buttons);
+        const Answer answer =
+            dialogs.Box("<b>a</b>", Dialogs::Icon::Exclamation, "Title", buttons, {});
         QTEST(answer, "answer");
     }
 

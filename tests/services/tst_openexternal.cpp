@@ -49,6 +49,7 @@ public:
     }
     ~Recorder() override { gSeams = Seams(); }
 
+    std::unique_ptr<OutsideObject> Start(const QString&) override { return nullptr; }
     std::unique_ptr<QObject> Create(const QString&) override { return nullptr; }
     std::unique_ptr<OutsideObject> Attach(const QString& programId) override {
         Note("attach " + programId);

@@ -18,6 +18,10 @@ public:
         asked.append(programId);
         return nullptr;
     }
+    std::unique_ptr<OutsideObject> Start(const QString& programId) override {
+        asked.append(programId);
+        return start ? start(programId) : nullptr;
+    }
     std::unique_ptr<QObject> Create(const QString& programId) override {
         created.append(programId);
         return make ? make(programId) : nullptr;
@@ -25,6 +29,7 @@ public:
 
     QStringList asked;    // ids of programs
     QStringList created;  // ids of components
+    std::function<std::unique_ptr<OutsideObject>(const QString&)> start;
     std::function<std::unique_ptr<QObject>(const QString&)> make;
 };
 

@@ -29,8 +29,11 @@ void TestDialogs::ExpectBrowseFolder(const QString& answer) {
     expected_.append({Kind::BrowseFolder, answer, Icon::None, Answer::Ok});
 }
 
-Dialogs::Answer TestDialogs::Box(const QString& text, Icon icon, const QString& title, Buttons) {
+Dialogs::Answer TestDialogs::Box(const QString& text, Icon icon, const QString& title,
+                                 Buttons buttons, const QString& detail) {
     lastTitle_ = title;
+    lastDetail_ = detail;
+    lastButtons_ = buttons;
     const Expected expected = Take(Kind::Box, text);
     const bool fits = expected.text.endsWith(u'*')
                           ? text.startsWith(QStringView(expected.text).chopped(1))
@@ -53,6 +56,18 @@ QString TestDialogs::OpenFile(const QString& title, const QString&) {
 QString TestDialogs::BrowseFolder(const QString& title, const QString&) {
     lastTitle_ = title;
     return Take(Kind::BrowseFolder, title).text;
+}
+
+void TestDialogs::ExpectPassword(const std::optional<Password>& answer) {
+    expected_.append({Kind::Password, QStringLiteral("password"), Icon::None, Answer::Ok});
+    passwords_.append(answer);
+}
+
+std::optional<Dialogs::Password> TestDialogs::AskPassword(const QString& server,
+                                                          const QString& realm, bool) {
+    lastTitle_ = server + u' ' + realm;
+    Take(Kind::Password, lastTitle_);
+    return passwords_.isEmpty() ? std::nullopt : passwords_.takeFirst();
 }
 
 TestDialogs::Expected TestDialogs::Take(Kind kind, const QString& what) {

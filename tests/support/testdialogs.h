@@ -19,15 +19,22 @@ public:
     void Expect(const QString& text, Icon icon = Icon::Exclamation, Answer answer = Answer::Ok);
     void ExpectOpenFile(const QString& answer);
     void ExpectBrowseFolder(const QString& answer);
+    // The password dialog comes next; none stands for its cancel.
+    void ExpectPassword(const std::optional<Password>& answer);
     bool AllCame() const { return expected_.isEmpty(); }
-    const QString& LastTitle() const { return lastTitle_; }  // of the last dialog of any kind
+    const QString& LastTitle() const { return lastTitle_; }    // of the last dialog of any kind
+    const QString& LastDetail() const { return lastDetail_; }  // of the last box
+    Buttons LastButtons() const { return lastButtons_; }
 
-    Answer Box(const QString& text, Icon icon, const QString& title, Buttons buttons) override;
+    Answer Box(const QString& text, Icon icon, const QString& title, Buttons buttons,
+               const QString& detail) override;
     QString OpenFile(const QString& title, const QString& filter) override;
     QString BrowseFolder(const QString& title, const QString& start) override;
+    std::optional<Password> AskPassword(const QString& server, const QString& realm,
+                                        bool refused) override;
 
 private:
-    enum class Kind { Box, OpenFile, BrowseFolder };
+    enum class Kind { Box, OpenFile, BrowseFolder, Password };
     struct Expected {
         Kind kind;
         QString text;
@@ -37,7 +44,10 @@ private:
     Expected Take(Kind kind, const QString& what);
 
     QList<Expected> expected_;
+    QList<std::optional<Password>> passwords_;
     QString lastTitle_;
+    QString lastDetail_;
+    Buttons lastButtons_ = Buttons::Ok;
     Dialogs* former_;
 };
 

@@ -3,8 +3,8 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include "docmodel/builder.h"
 #include "docmodel/access.h"
+#include "docmodel/builder.h"
 #include "services/seams.h"
 
 namespace docbench {

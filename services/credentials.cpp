@@ -1,0 +1,66 @@
+#include "services/credentials.h"
+
+#include <QSet>
+
+#include "services/dialogs.h"
+#include "services/docaccess.h"
+#include "services/keyring.h"
+#include "services/seams.h"
+
+namespace docbench {
+namespace {
+
+QString EntryOf(const QString& server, const QString& realm) {
+    return server + u' ' + realm;
+}
+
+// User and password in one secret. A user name holds no line break.
+std::optional<Credentials> Unpack(const QString& secret) {
+    const qsizetype split = secret.indexOf(u'\n');
+    if (split < 0)
+        return std::nullopt;
+    return Credentials{secret.left(split), secret.mid(split + 1)};
+}
+
+class AskingCredentials : public CredentialSource {
+public:
+    std::optional<Credentials> Ask(const QString& server, const QString& realm,
+                                   int attempt) override {
+        const QString entry = EntryOf(server, realm);
+        if (attempt == 0 && gSeams.keyring) {
+            if (const auto secret = gSeams.keyring->Read(entry)) {
+                if (const auto kept = Unpack(*secret))
+                    return kept;
+            }
+        }
+        if (attempt > 0 && gSeams.keyring)
+            gSeams.keyring->Delete(entry);  // what it held was refused
+        const auto answer = gSeams.dialogs->AskPassword(server, realm, attempt > 0);
+        if (!answer)
+            return std::nullopt;
+        if (answer->remember)
+            toKeep_.insert(entry);
+        else
+            toKeep_.remove(entry);
+        return Credentials{answer->user, answer->password};
+    }
+
+    void Accepted(const QString& server, const QString& realm,
+                  const Credentials& credentials) override {
+        const QString entry = EntryOf(server, realm);
+        if (toKeep_.remove(entry) && gSeams.keyring)
+            gSeams.keyring->Write(entry, credentials.user + u'\n' + credentials.password);
+    }
+
+private:
+    QSet<QString> toKeep_;  // the user ticked that the answer be kept, once it is right
+};
+
+}  // namespace
+
+CredentialSource& WebCredentials() {
+    static AskingCredentials credentials;
+    return credentials;
+}
+
+}  // namespace docbench

@@ -1,0 +1,150 @@
+#include "services/webcopies.h"
+
+#include <QDir>
+#include <QFile>
+
+#include "services/credentials.h"
+#include "services/dialogs.h"
+#include "services/docaccess.h"
+#include "services/paths.h"
+#include "services/scratch.h"
+#include "services/seams.h"
+
+namespace docbench {
+
+std::unique_ptr<WebFolderClient> gWebFolder;
+QHash<QString, QString> gWebCopies;
+std::unique_ptr<WebFolderListing> gWebListing;
+
+namespace {
+
+const char* const kDocumentExtensions[] = {"PRT", "ASM", "DRW", "TFMASM", "TFMPRT", "TFMDRW"};
+
+bool IsDocument(const QString& name) {
+    const QString extension = ExtensionOf(name).toUpper();
+    return std::any_of(std::begin(kDocumentExtensions), std::end(kDocumentExtensions),
+                       [&](const char* known) { return extension == QLatin1String(known); });
+}
+
+QString CopyFolder() {
+    return gTempFolder + QStringLiteral("tessaformadocbench/");
+}
+
+// Two addresses that end in the same name get copies of different names.
+QString FreeCopyName(const QString& url) {
+    const QString name = UrlFileName(url);
+    QString local = CopyFolder() + name;
+    QString other;
+    for (int i = 1; QFile::exists(local) && FindUrlOfCopy(local, other) && other != url; ++i)
+        local = CopyFolder() + QString::number(i) + name;
+    return local;
+}
+
+}  // namespace
+
+void UseWebFolders() {
+    gWebListing.reset();
+    gWebFolder.reset();
+    if (gSeams.documents)
+        gWebFolder = gSeams.documents->MakeWebFolderClient({.credentials = &WebCredentials()});
+    gWebCopies.clear();
+}
+
+QString UrlFileName(const QString& url) {
+    return url.mid(url.lastIndexOf(u'/') + 1);
+}
+
+QString UrlFolder(const QString& url) {
+    return url.left(url.lastIndexOf(u'/') + 1);
+}
+
+bool GetLocalCopy(const QString& url, QString& local) {
+    local = url;
+    if (!IsWebPath(url))
+        return true;
+    const auto known = gWebCopies.constFind(url);
+    if (known != gWebCopies.cend()) {
+        local = *known;
+        return true;
+    }
+    local.clear();
+    if (!gWebFolder || !IsDocument(UrlFileName(url)) || !CreateFolderPath(CopyFolder()))
+        return false;
+    const QString copy = FreeCopyName(url);
+    if (!gWebFolder->GetFile(url, copy))
+        return false;
+    gWebCopies.insert(url, copy);
+    local = copy;
+    return true;
+}
+
+QString LocalCopyOf(const QString& url) {
+    QString local;
+    GetLocalCopy(url, local);
+    return local;
+}
+
+bool UploadIfWeb(const QString& path) {
+    const auto copy = gWebCopies.constFind(path);
+    if (!IsWebPath(path) || copy == gWebCopies.cend())
+        return true;
+    if (gWebFolder && gWebFolder->PutFile(*copy, path))
+        return true;
+    gSeams.dialogs->Box(QStringLiteral("File save to server failed"), Dialogs::Icon::None,
+                        QString(), Dialogs::Buttons::Ok,
+                        gWebFolder ? gWebFolder->LastError() : QString());
+    return false;
+}
+
+bool FindUrlOfCopy(const QString& local, QString& url) {
+    const QString wanted = QDir::cleanPath(local);
+    for (auto copy = gWebCopies.cbegin(); copy != gWebCopies.cend(); ++copy) {
+        if (QDir::cleanPath(*copy) != wanted)
+            continue;
+        url = copy.key();
+        return true;
+    }
+    return false;
+}
+
+bool MirrorWebFolder(const QString& url, QString& localFolder) {
+    localFolder =
+        gTempFolder + QStringLiteral("/tessaformadocbench/");  // doubled: as others compare it
+    if (!gWebFolder)
+        return false;
+    gWebListing = gWebFolder->ListFolder(url);
+    if (!gWebListing || !CreateFolderPath(localFolder) || !gWebListing->Reset())
+        return false;
+    bool any = false;
+    QString entry;
+    while (gWebListing->NextEntry(entry)) {
+        QString kind;
+        QString local;
+        if (gWebListing->GetProperty(entry, QStringLiteral("DAV:"), QStringLiteral("resourcetype"),
+                                     kind) &&
+            kind == QLatin1String("File"))
+            any = GetLocalCopy(entry, local) || any;
+    }
+    return any;
+}
+
+bool RenameWebCopy(const QString& oldUrl, const QString& newUrl) {
+    QString local;
+    GetLocalCopy(oldUrl, local);
+    const QString former = gWebCopies.take(oldUrl);
+    if (former.isEmpty())
+        return false;
+    const QString copy = FolderOf(former) + UrlFileName(newUrl);
+    QString other;
+    if (FindUrlOfCopy(copy, other))
+        gWebCopies.remove(other);
+    if (copy != former) {
+        QFile::remove(copy);
+        if (!QFile::rename(former, copy))
+            return false;
+    }
+    gWebCopies.insert(newUrl, copy);
+    return true;
+}
+
+}  // namespace docbench

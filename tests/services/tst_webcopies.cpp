@@ -1,0 +1,261 @@
+#include <QDir>
+#include <QTest>
+
+#include "services/credentials.h"
+#include "services/keyring.h"
+#include "services/scratch.h"
+#include "services/seams.h"
+#include "services/webcopies.h"
+#include "tests/support/fakewebclient.h"
+#include "tests/support/testdialogs.h"
+#include "tests/support/testenvironment.h"
+
+using namespace docbench;
+
+namespace {
+
+const QString kPin = QStringLiteral("http://s/w/pin.tfmprt");
+const QString kOtherPin = QStringLiteral("http://s/x/pin.tfmprt");
+
+QByteArray BytesOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+class FakeKeyRing : public KeyRing {
+public:
+    FakeKeyRing() { gSeams.keyring = this; }
+    ~FakeKeyRing() override { gSeams.keyring = nullptr; }
+    std::optional<QString> Read(const QString& entry) override {
+        return secrets.contains(entry) ? std::optional(secrets[entry]) : std::nullopt;
+    }
+    bool Write(const QString& entry, const QString& secret) override {
+        secrets[entry] = secret;
+        return true;
+    }
+    void Delete(const QString& entry) override { secrets.remove(entry); }
+
+    QMap<QString, QString> secrets;
+};
+
+}  // namespace
+
+class tst_WebCopies : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() {
+        PrepareScratch();
+        DeleteScratch();
+    }
+
+    void addressesAreTakenApartAtTheLastSlash() {
+        QCOMPARE(UrlFileName(kPin), QString("pin.tfmprt"));
+        QCOMPARE(UrlFileName("pin"), QString("pin"));
+        QCOMPARE(UrlFolder(kPin), QString("http://s/w/"));
+        QCOMPARE(UrlFolder("pin"), QString());
+    }
+
+    void aLocalPathIsItsOwnCopy() {
+        const FakeWeb web;
+        QString local;
+        QVERIFY(GetLocalCopy("/w/pin.tfmprt", local));
+        QCOMPARE(local, QString("/w/pin.tfmprt"));
+        QVERIFY(web.server.calls.isEmpty());
+        QVERIFY(gWebCopies.isEmpty());
+    }
+
+    void theSecondRequestDoesNotDownload() {
+        FakeWeb web;
+        web.server.files[kPin] = "one";
+        QString local;
+        QVERIFY(GetLocalCopy(kPin, local));
+        QCOMPARE(local, gTempFolder + "tessaformadocbench/pin.tfmprt");
+        QCOMPARE(BytesOf(local), QByteArray("one"));
+        web.server.files[kPin] = "two";
+        QVERIFY(GetLocalCopy(kPin, local));
+        QCOMPARE(BytesOf(local), QByteArray("one"));
+        QCOMPARE(web.server.calls, QStringList("get " + kPin));
+    }
+
+    void equalNamesGetCopiesOfTheirOwn() {
+        FakeWeb web;
+        web.server.files = {{kPin, "one"}, {kOtherPin, "two"}, {"http://s/y/pin.tfmprt", "three"}};
+        QCOMPARE(LocalCopyOf(kPin), gTempFolder + "tessaformadocbench/pin.tfmprt");
+        QCOMPARE(LocalCopyOf(kOtherPin), gTempFolder + "tessaformadocbench/1pin.tfmprt");
+        QCOMPARE(LocalCopyOf("http://s/y/pin.tfmprt"),
+                 gTempFolder + "tessaformadocbench/2pin.tfmprt");
+        QCOMPARE(BytesOf(LocalCopyOf(kPin)), QByteArray("one"));
+        QCOMPARE(BytesOf(LocalCopyOf(kOtherPin)), QByteArray("two"));
+    }
+
+    void aFileThatIsNobodysCopyIsWrittenOver() {
+        FakeWeb web;
+        web.server.files[kPin] = "new";
+        QVERIFY(QDir().mkpath(gTempFolder + "tessaformadocbench"));
+        QFile stale(gTempFolder + "tessaformadocbench/pin.tfmprt");
+        QVERIFY(stale.open(QIODevice::WriteOnly));
+        stale.write("stale");
+        stale.close();
+        QCOMPARE(LocalCopyOf(kPin), stale.fileName());
+        QCOMPARE(BytesOf(stale.fileName()), QByteArray("new"));
+    }
+
+    void onlyDocumentsAreFetched_data() {
+        QTest::addColumn<bool>("fetched");
+        for (const char* name : {"a.prt", "a.ASM", "a.drw", "a.tfmasm", "a.tfmprt", "a.TfmDrw"})
+            QTest::newRow(name) << true;
+        for (const char* name : {"a.txt", "a", "a.tfm", "a.prt/"})
+            QTest::newRow(name) << false;
+    }
+    void onlyDocumentsAreFetched() {
+        QFETCH(bool, fetched);
+        FakeWeb web;
+        const QString url = QString("http://s/w/") + QTest::currentDataTag();
+        web.server.files[url] = "x";
+        QString local = "before";
+        QCOMPARE(GetLocalCopy(url, local), fetched);
+        QCOMPARE(!local.isEmpty(), fetched);
+    }
+
+    void aDownloadThatFailsAddsNothing() {
+        const FakeWeb web;
+        QString local = "before";
+        QVERIFY(!GetLocalCopy(kPin, local));
+        QCOMPARE(local, QString());
+        QVERIFY(gWebCopies.isEmpty());
+    }
+
+    void withoutAClientNothingIsFetched() {
+        QString local = "before";
+        QVERIFY(!GetLocalCopy(kPin, local));
+        QCOMPARE(local, QString());
+    }
+
+    void aChangedCopyIsWrittenBack() {
+        FakeWeb web;
+        web.server.files[kPin] = "one";
+        QFile copy(LocalCopyOf(kPin));
+        QVERIFY(copy.open(QIODevice::WriteOnly));
+        copy.write("changed");
+        copy.close();
+        QVERIFY(UploadIfWeb(kPin));
+        QCOMPARE(web.server.files[kPin], QByteArray("changed"));
+    }
+
+    void whatIsNoWebCopyIsNotWrittenBack() {
+        const FakeWeb web;
+        QVERIFY(UploadIfWeb("/w/pin.tfmprt"));
+        QVERIFY(UploadIfWeb(kPin));  // never fetched
+        QVERIFY(web.server.calls.isEmpty());
+    }
+
+    void aRefusedUploadTellsWhyAndCanBeTriedAgain() {
+        FakeWeb web;
+        TestDialogs dialogs;
+        web.server.files[kPin] = "one";
+        const QString copy = LocalCopyOf(kPin);
+        web.server.refusesUploads = true;
+        dialogs.Expect("File save to server failed", Dialogs::Icon::None);
+        QVERIFY(!UploadIfWeb(kPin));
+        QVERIFY(dialogs.AllCame());
+        QCOMPARE(dialogs.LastDetail(), web.server.error);
+        QCOMPARE(BytesOf(copy), QByteArray("one"));
+        web.server.refusesUploads = false;
+        QVERIFY(UploadIfWeb(kPin));
+    }
+
+    void theAddressOfACopyIsFoundByItsCleanedPath() {
+        FakeWeb web;
+        web.server.files[kPin] = "one";
+        LocalCopyOf(kPin);
+        QString url;
+        QVERIFY(FindUrlOfCopy(gTempFolder + "/tessaformadocbench/./pin.tfmprt", url));
+        QCOMPARE(url, kPin);
+        QVERIFY(!FindUrlOfCopy("/w/pin.tfmprt", url));
+    }
+
+    void aFolderIsMirroredWithItsDocuments() {
+        FakeWeb web;
+        web.server.folders = {"http://s/w/", "http://s/w/sub/"};
+        web.server.files = {{kPin, "one"}, {"http://s/w/notes.txt", "x"}, {kOtherPin, "far"}};
+        QString folder;
+        QVERIFY(MirrorWebFolder("http://s/w/", folder));
+        QCOMPARE(folder, gTempFolder + "/tessaformadocbench/");
+        QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList("pin.tfmprt"));
+    }
+
+    void aFolderWithOnlySubfoldersMirrorsToNothing() {
+        FakeWeb web;
+        web.server.folders = {"http://s/w/", "http://s/w/sub/"};
+        QString folder;
+        QVERIFY(!MirrorWebFolder("http://s/w/", folder));
+        QVERIFY(!MirrorWebFolder("http://s/nowhere/", folder));
+    }
+
+    void aRenamedDocumentTakesItsCopyAlong() {
+        FakeWeb web;
+        web.server.files[kPin] = "one";
+        const QString copy = LocalCopyOf(kPin);
+        QVERIFY(RenameWebCopy(kPin, "http://s/w/bolt.tfmprt"));
+        QCOMPARE(LocalCopyOf("http://s/w/bolt.tfmprt"),
+                 gTempFolder + "tessaformadocbench/bolt.tfmprt");
+        QCOMPARE(BytesOf(LocalCopyOf("http://s/w/bolt.tfmprt")), QByteArray("one"));
+        QVERIFY(!QFile::exists(copy));
+        QVERIFY(!gWebCopies.contains(kPin));
+        QCOMPARE(web.server.calls, QStringList("get " + kPin));
+    }
+
+    void anotherCopyInTheWayOfARenamedOneIsForgotten() {
+        FakeWeb web;
+        web.server.files = {{kPin, "one"}, {"http://s/x/bolt.tfmprt", "two"}};
+        LocalCopyOf(kPin);
+        LocalCopyOf("http://s/x/bolt.tfmprt");
+        QVERIFY(RenameWebCopy(kPin, "http://s/w/bolt.tfmprt"));
+        QVERIFY(!gWebCopies.contains("http://s/x/bolt.tfmprt"));
+        QCOMPARE(BytesOf(LocalCopyOf("http://s/w/bolt.tfmprt")), QByteArray("one"));
+    }
+
+    void whatHasNoCopyIsNotRenamed() {
+        const FakeWeb web;
+        QVERIFY(!RenameWebCopy(kPin, "http://s/w/bolt.tfmprt"));
+        QVERIFY(!gWebCopies.contains("http://s/w/bolt.tfmprt"));
+    }
+
+    void aPasswordIsAskedForAndKeptOnlyWhenItWasRight() {
+        FakeKeyRing keyring;
+        TestDialogs dialogs;
+        CredentialSource& source = WebCredentials();
+        dialogs.ExpectPassword(Dialogs::Password{"ann", "secret\nline", true});
+        const auto answer = source.Ask("https://s:443", "docs", 0);
+        QCOMPARE(answer->user, QString("ann"));
+        QVERIFY(keyring.secrets.isEmpty());
+        source.Accepted("https://s:443", "docs", *answer);
+        const auto kept = source.Ask("https://s:443", "docs", 0);  // no dialog
+        QCOMPARE(kept->user, QString("ann"));
+        QCOMPARE(kept->password, QString("secret\nline"));
+    }
+
+    void aKeptPasswordThatIsRefusedIsForgottenAndAskedFor() {
+        FakeKeyRing keyring;
+        TestDialogs dialogs;
+        keyring.secrets["https://s:443 docs"] = "ann\nold";
+        CredentialSource& source = WebCredentials();
+        QCOMPARE(source.Ask("https://s:443", "docs", 0)->password, QString("old"));
+        dialogs.ExpectPassword(std::nullopt);
+        QVERIFY(!source.Ask("https://s:443", "docs", 1));
+        QVERIFY(keyring.secrets.isEmpty());
+    }
+
+    void withoutTheTickNothingIsKept() {
+        FakeKeyRing keyring;
+        TestDialogs dialogs;
+        dialogs.ExpectPassword(Dialogs::Password{"ann", "secret", false});
+        const auto answer = WebCredentials().Ask("https://t:443", "docs", 0);
+        WebCredentials().Accepted("https://t:443", "docs", *answer);
+        QVERIFY(keyring.secrets.isEmpty());
+    }
+};
+
+DOCBENCH_TEST_MAIN(QCoreApplication, tst_WebCopies)
+#include "tst_webcopies.moc"
