@@ -5,6 +5,7 @@
 #include "platform/desktopshellexecute.h"
 #include "platform/helpwindow.h"
 #include "platform/secretkeyring.h"
+#include "platform/xlsxspreadsheet.h"
 #include "services/documentlibrary.h"
 
 namespace docbench {
@@ -16,6 +17,7 @@ struct DesktopSeams::Parts {
     SecretKeyRing keyring;
     DesktopOutsideObjects outside;
     DesktopShellExecute shell;
+    XlsxSpreadsheet spreadsheet;
 };
 
 DesktopSeams::DesktopSeams() : parts_(std::make_unique<Parts>()), former_(gSeams) {
@@ -24,7 +26,8 @@ DesktopSeams::DesktopSeams() : parts_(std::make_unique<Parts>()), former_(gSeams
               .help = &parts_->help,
               .keyring = &parts_->keyring,
               .outside = &parts_->outside,
-              .shell = &parts_->shell};
+              .shell = &parts_->shell,
+              .spreadsheet = &parts_->spreadsheet};
 }
 
 DesktopSeams::~DesktopSeams() {

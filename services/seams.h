@@ -9,6 +9,7 @@ class HelpViewer;
 class KeyRing;
 class OutsideObjects;
 class ShellExecute;
+class Spreadsheet;
 
 // Set once by the program (or the test) before the first control is made; owned by whoever sets
 // them.
@@ -19,6 +20,7 @@ struct Seams {
     KeyRing* keyring = nullptr;  // null: passwords are kept in memory alone
     OutsideObjects* outside = nullptr;
     ShellExecute* shell = nullptr;
+    Spreadsheet* spreadsheet = nullptr;
 };
 
 extern Seams gSeams;

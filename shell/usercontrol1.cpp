@@ -26,6 +26,7 @@
 #include "shell/referencetree.h"
 #include "shell/waitcursor.h"
 #include "ui_usercontrol1.h"
+#include "whereused/whereused.h"
 
 namespace docbench {
 
@@ -63,6 +64,7 @@ UserControl1::UserControl1(QWidget* parent)
     UseWebFolders();
     PrepareScratch();
     AddPane(PaneId::Preview, new PreviewPane);
+    AddPane(PaneId::WhereUsed, new whereUsed);
 }
 
 UserControl1::~UserControl1() {

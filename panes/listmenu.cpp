@@ -1,0 +1,42 @@
+#include "panes/listmenu.h"
+
+#include "panes/celllistview.h"
+#include "services/exporttable.h"
+#include "services/language.h"
+#include "services/listtable.h"
+#include "services/openexternal.h"
+#include "services/texts.h"
+
+namespace docbench {
+
+ListMenu::ListMenu(const char* name, CellListView* list, std::function<void()> open,
+                   std::function<void()> exportList)
+    : QMenu(list), list_(list) {
+    setObjectName(QLatin1String(name));
+    mnopen = addAction(Tr(Text::MenuOpen), this, std::move(open));
+    mnopen->setObjectName(QStringLiteral("mnopen"));
+    mnexport = addAction(Tr(Text::MenuExport), this, std::move(exportList));
+    mnexport->setObjectName(QStringLiteral("mnexport"));
+    connect(list, &CellListView::MenuRequested, this, &ListMenu::PopUp);
+}
+
+void ListMenu::PopUp(QPoint globalPosition) {
+    const bool rows = list_->List().Count() > 0;
+    mnopen->setEnabled(rows && (opens_ == Opens::AnyRow || list_->SelectedRow() >= 0));
+    mnexport->setEnabled(rows);
+    popup(globalPosition);
+}
+
+void OpenDocumentInCad(const QString& path) {
+    OpenDocumentExternally(QStringLiteral("Open"), path, QStringLiteral("0"), QStringLiteral("0"),
+                           1);
+}
+
+QString ExportList(const CellListView& list, QString& where) {
+    const std::optional<TextTable> table = ListToTable(list.List());
+    return ExportToSpreadsheet(table, &where)
+               ? Format(Text::ExportDone, QString::number(table->size() - 1))
+               : QString(Tr(Text::ExportFailed));
+}
+
+}  // namespace docbench

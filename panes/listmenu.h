@@ -1,0 +1,41 @@
+// The menu of a list of documents: open and export.
+#pragma once
+
+#include <QMenu>
+#include <functional>
+
+class QAction;
+
+namespace docbench {
+
+class CellListView;
+
+class ListMenu : public QMenu {
+    Q_OBJECT
+
+public:
+    // Named `name`; pops up over the list, whose form owns it. `open` and `exportList` are what its
+    // entries "mnopen" and "mnexport" do.
+    ListMenu(const char* name, CellListView* list, std::function<void()> open,
+             std::function<void()> exportList);
+
+    // How mnopen is enabled in a list with rows: always, or only with a selected row.
+    enum class Opens { AnyRow, SelectedRow };
+    void SetOpens(Opens opens) { opens_ = opens; }
+
+private:
+    void PopUp(QPoint globalPosition);
+
+    CellListView* list_;
+    QAction* mnopen;
+    QAction* mnexport;
+    Opens opens_ = Opens::AnyRow;
+};
+
+// Opens a document in the CAD application, by the verb "Open".
+void OpenDocumentInCad(const QString& path);
+
+// Exports a list; gives the status text that tells how it went, and in `where` the file.
+QString ExportList(const CellListView& list, QString& where);
+
+}  // namespace docbench
