@@ -11,8 +11,9 @@
 #include "frame/frmabout.h"
 #include "frame/maincontrol.h"
 #include "platform/desktopseams.h"
-#include "platform/helpwindow.h"
+#include "services/helpviewer.h"
 #include "services/language.h"
+#include "services/seams.h"
 #include "shell/previewpane.h"
 #include "shell/usercontrol1.h"
 
@@ -59,8 +60,7 @@ QWidget* About(Stage& stage) {
 }
 
 QWidget* Help(Stage&) {
-    static HelpWindow help;
-    help.Open(gHelpFile, QStringLiteral("preview"));
+    gSeams.help->Open(gHelpFile, QStringLiteral("preview"));
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (window->objectName() == QLatin1String("HelpWindow"))
             return window;
