@@ -18,6 +18,14 @@ target_sources(docmodel_core PRIVATE
     propertyset.cpp
     propertyvalue.cpp
     referencepath.cpp
+    webaddress.cpp
+    weberror.cpp
+    webfolderclientobject.cpp
+    webfolderlistingobject.cpp
+    weblogin.cpp
+    webpropfind.cpp
+    websession.cpp
+    webversion.cpp
     xml.cpp
     # What a document's name means and who the user is has one home; the library takes it from there
     # without taking the services.
