@@ -21,6 +21,7 @@ bool Write(const QString& text, char* to, size_t size) {
 }  // namespace
 
 void WebLogin::AttachTo(ne_session* session) {
+    session_ = session;
     ne_add_auth(session, NE_AUTH_BASIC | NE_AUTH_DIGEST, &WebLogin::Provide, this);
 }
 
@@ -32,6 +33,10 @@ void WebLogin::BeginRequest(const WebAddress& address) {
     cancelled_ = false;
     tooLong_ = false;
     raised_ = nullptr;
+    const bool isOther =
+        ofAddress_.user != current_.user || ofAddress_.password != current_.password;
+    if (!ofAddress_.password.isEmpty() && isOther)
+        ne_forget_auth(session_);
 }
 
 void WebLogin::EndRequest(bool accepted) {
@@ -43,6 +48,7 @@ void WebLogin::EndRequest(bool accepted) {
         kept_.remove(realm_);
         return;
     }
+    current_ = candidate_;
     kept_.insert(realm_, candidate_);
     if (tried_ == Tried::Asked)
         source_->Accepted(server_, realm_, candidate_);

@@ -34,10 +34,12 @@ private:
     bool Choose(const QString& realm);
     bool Ask(const QString& realm);
 
+    ne_session* session_ = nullptr;
     docbench::CredentialSource* const source_;
     const QString server_;
     QHash<QString, docbench::Credentials> kept_;  // by realm, once accepted
     docbench::Credentials ofAddress_;
+    docbench::Credentials current_;  // what the session uses without asking
 
     // Of the request under way.
     enum class Tried { Nothing, Kept, Address, Asked };

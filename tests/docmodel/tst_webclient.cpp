@@ -7,40 +7,19 @@
 #include <QTest>
 #include <memory>
 
-#include "docmodel/access.h"
+#include "tests/docmodel/webtools.h"
 #include "tests/support/apacheserver.h"
 #include "tests/support/testenvironment.h"
 
 using docbench::ApacheServer;
-using docbench::WebClientSettings;
 using docbench::WebFolderClient;
+using docmodel::EntriesOf;
+using docmodel::MakeClient;
+using docmodel::Read;
+using docmodel::Write;
 using Presence = docbench::WebFolderClient::Presence;
 
 namespace {
-
-std::unique_ptr<WebFolderClient> MakeClient(const WebClientSettings& settings = {}) {
-    return docmodel::Access().MakeWebFolderClient(settings);
-}
-
-void Write(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("can't write %s", qPrintable(path));
-}
-
-QByteArray Read(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
-}
-
-QStringList EntriesOf(docbench::WebFolderListing& listing) {
-    QStringList urls;
-    listing.Reset();
-    for (QString url; listing.NextEntry(url);)
-        urls.append(url);
-    urls.sort();
-    return urls;
-}
 
 QString TypeOf(docbench::WebFolderListing& listing, const QString& url) {
     QString value;
