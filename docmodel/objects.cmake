@@ -26,6 +26,7 @@ target_sources(docmodel_core PRIVATE
     webpropfind.cpp
     websession.cpp
     webversion.cpp
+    webwatch.cpp
     xml.cpp
     # What a document's name means and who the user is has one home; the library takes it from there
     # without taking the services.

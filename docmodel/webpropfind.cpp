@@ -96,8 +96,10 @@ QByteArray NameIn(const WebAddress& folder, const QByteArray& href) {
     QByteArray name = path.mid(folder.path.size());
     if (name.endsWith('/'))
         name.chop(1);
-    const bool isOneStep = !name.contains('/') && !name.contains("%2F") && !name.contains("%00");
-    return isOneStep ? name : QByteArray();
+    for (const char* separator : {"/", "%2F", "%5C", "%00"})
+        if (name.contains(separator))
+            return {};
+    return name;
 }
 
 bool IsOfFolder(const WebAddress& folder, const QByteArray& href) {

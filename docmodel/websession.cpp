@@ -87,7 +87,9 @@ void ReadHead(ne_request* handle, const WebAddress& address, WebAnswer& answer) 
 }  // namespace
 
 WebSession::WebSession(const WebAddress& server, const docbench::WebClientSettings& settings)
-    : settings_(settings), login_(settings.credentials, server.Server()) {
+    : settings_(settings),
+      login_(settings.credentials, server.Server()),
+      watch_(settings.timeoutSeconds, server.port) {
     if (!InitLibrary())
         throw WebError(server, QStringLiteral("reached"),
                        QStringLiteral("the network can't be used. Restart the program"));
@@ -97,6 +99,7 @@ WebSession::WebSession(const WebAddress& server, const docbench::WebClientSettin
     ne_set_connect_timeout(session_.get(), settings.timeoutSeconds);
     ne_set_read_timeout(session_.get(), settings.timeoutSeconds);
     login_.AttachTo(session_.get());
+    watch_.AttachTo(session_.get());
     if (server.scheme == "https")
         SetUpTls(server);
 }
@@ -184,28 +187,39 @@ WebAnswer WebSession::SendOnce(const WebAddress& address, const WebRequest& requ
     } catch (const BodyFailed&) {
         result = NE_ERROR;
     } catch (...) {
-        ne_close_connection(session_.get());  // the rest of the body is still to come
+        CloseConnection();  // the rest of the body is still to come
         throw;
     }
+    watch_.Pause();
     login_.EndRequest(result == NE_OK && answer.status != 401);
-    if (result != NE_OK)
+    if (result != NE_OK) {
+        CloseConnection();
         RaiseFailure(result, address, request);
+    }
     if (answer.status == 401)
         throw WebError(address, request.done, login_.Problem());
     hasAnswered_ = true;
     return answer;
 }
 
+void WebSession::CloseConnection() {
+    watch_.Pause();
+    ne_close_connection(session_.get());
+    watch_.Forget();
+}
+
 int WebSession::Exchange(ne_request* handle, const WebRequest& request, WebAnswer& answer) {
     const WebAddress address = answer.address;
     int result = NE_OK;
     do {
+        watch_.Begin();
         result = ne_begin_request(handle);
         if (result != NE_OK)
             continue;
         ReadHead(handle, address, answer);
         ReadBody(handle, request, answer);
-        result = ne_end_request(handle);
+        watch_.Pause();
+        result = ne_end_request(handle);  // may ask the user for a password
     } while (result == NE_RETRY);
     return result;
 }
@@ -220,12 +234,13 @@ void WebSession::ReadBody(ne_request* handle, const WebRequest& request, const W
     silence.start();
     ssize_t count = 0;
     while ((count = ne_read_response_block(handle, block.data(), block.size())) > 0) {
-        silence.restart();
         if (isWanted)
             request.received(block.data(), size_t(count));
         else if ((unwanted += count) > kMaxErrorPageBytes)
             throw WebError(answer.address, request.done,
                            StatusReason(answer.status, answer.phrase));
+        watch_.SawSign();
+        silence.restart();
     }
     if (count < 0) {
         timedOut_ = silence.elapsed() >= qint64(settings_.timeoutSeconds) * 1000;
@@ -237,7 +252,7 @@ void WebSession::RaiseFailure(int result, const WebAddress& address, const WebRe
     QString reason;
     if (certificateFailures_ != 0)
         reason = CertificateReason(certificateFailures_);
-    else if (result == NE_TIMEOUT || timedOut_)
+    else if (result == NE_TIMEOUT || timedOut_ || watch_.HasBrokenOff())
         reason = QStringLiteral("the server has been silent for %1 seconds. Try again later")
                      .arg(settings_.timeoutSeconds);
     else if (result == NE_LOOKUP)

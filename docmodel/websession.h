@@ -12,6 +12,7 @@
 
 #include "docmodel/webaddress.h"
 #include "docmodel/weblogin.h"
+#include "docmodel/webwatch.h"
 
 namespace docmodel {
 
@@ -59,6 +60,7 @@ private:
     void SetUpTls(const WebAddress& server);
     Request Prepared(const WebAddress& address, const WebRequest& request);
     WebAnswer SendOnce(const WebAddress& address, const WebRequest& request);
+    void CloseConnection();
     int Exchange(ne_request* handle, const WebRequest& request, WebAnswer& answer);
     void ReadBody(ne_request* handle, const WebRequest& request, const WebAnswer& answer);
     [[noreturn]] void RaiseFailure(int result, const WebAddress& address,
@@ -68,6 +70,7 @@ private:
 
     const docbench::WebClientSettings settings_;
     WebLogin login_;
+    WebWatch watch_;
     std::unique_ptr<ne_session, Destroy> session_;
     int certificateFailures_ = 0;  // of the last connection
     bool timedOut_ = false;
