@@ -85,7 +85,9 @@ QByteArray CheckedHost(const QString& text) {
                 return {};
         return text.toLower().toLatin1();
     }
-    const QByteArray ascii = QUrl::toAce(text).toLower();
+    // Not for plain names: it knows none with an underscore.
+    const bool isPlain = text.toUtf8().size() == text.size();
+    const QByteArray ascii = (isPlain ? text.toLatin1() : QUrl::toAce(text)).toLower();
     for (const char c : ascii)
         if (!IsUnreserved(c))
             return {};
@@ -201,10 +203,12 @@ bool WebAddress::IsOnSameServer(const WebAddress& other) const {
 }
 
 bool WebAddress::HasDotSegments() const {
-    return WithoutDotSegments(path) != path;
+    return path.contains("/.") && WithoutDotSegments(path) != path;
 }
 
 QString UnescapedForUser(const QByteArray& escaped) {
+    if (!escaped.contains('%'))
+        return QString::fromUtf8(escaped);
     QStringList segments;
     for (const QByteArray& segment : escaped.split('/'))
         segments.append(UnescapedSegment(segment));

@@ -85,8 +85,8 @@ public:
     }
 
     bool IsWhole() const { return expected_ < 0 || expected_ == received_; }
+    void Expect(qint64 length) { expected_ = length; }
     bool KnowsLength() const { return expected_ >= 0; }
-    qint64 Received() const { return received_; }
 
     WebVersion Version() const {
         WebVersion version = version_;
@@ -149,6 +149,9 @@ void WebFolderClientObject::Download(const WebAddress& address, const QString& l
         throw WebError(address, Downloaded(),
                        QStringLiteral("the server packs it without being asked. Tell the server's "
                                       "administrator"));
+    // A body that ends with its connection may have ended too early.
+    if (!receiver.KnowsLength() && !answer.headers.contains("transfer-encoding"))
+        receiver.Expect(VersionNow(answer.address).length);
     if (!receiver.IsWhole())
         throw WebError(address, Downloaded(), QStringLiteral("it was cut short. Try again"));
     receiver.Place();
@@ -169,7 +172,7 @@ void WebFolderClientObject::Upload(const QString& localPath, const WebAddress& a
     WebSession& session = SessionFor(address);
     // So that no large body is sent only to hear that a password is wanted.
     if (!session.HasAnswered())
-        AskFor(session, address, Uploaded());
+        Knock(session, address, Uploaded());
     WebRequest request{.method = "PUT", .done = Uploaded()};
     request.headers = ConditionFor(address);
     request.file = file.Get();
@@ -245,6 +248,15 @@ void WebFolderClientObject::RaiseRefusedUpload(const WebAddress& address, const 
                                   "downloaded. Your copy is kept: look at the one on the server"));
 }
 
+WebVersion WebFolderClientObject::VersionNow(const WebAddress& address) {
+    try {
+        return AskFor(SessionFor(address), address, QStringLiteral("asked for")).version;
+    } catch (const DocumentError&) {
+        // What was to be done is done. That nothing is known now makes the next upload careful.
+        return {};
+    }
+}
+
 // What lies on the server now is ours if it is as long as what was sent.
 WebVersion WebFolderClientObject::VersionAfterUpload(const WebAnswer& answer, int file,
                                                      qint64 bytes) {
@@ -252,8 +264,7 @@ WebVersion WebFolderClientObject::VersionAfterUpload(const WebAnswer& answer, in
     version.length = bytes;
     if (version.HasSureTag())
         return version;
-    WebVersion asked;
-    Run([&] { asked = AskFor(SessionFor(answer.address), answer.address, Uploaded()).version; });
+    WebVersion asked = VersionNow(answer.address);
     if (asked.length >= 0 && asked.length != bytes)
         asked = WebVersion();
     asked.length = bytes;
@@ -330,8 +341,7 @@ void WebFolderClientObject::CarryOver(const WebAddress& from, const WebAddress& 
 // Some servers make tags of the name as well. What has the same length and date is the same file.
 void WebFolderClientObject::AdoptMovedTag(const WebAddress& address) {
     WebVersion& known = known_[address.Sent()];
-    WebVersion now;
-    Run([&] { now = AskFor(SessionFor(address), address, QStringLiteral("moved")).version; });
+    const WebVersion now = VersionNow(address);
     if (known.modified >= 0 && now.modified == known.modified && now.length == known.length &&
         !now.tag.isEmpty())
         known.tag = now.tag;

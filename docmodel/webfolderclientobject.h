@@ -38,6 +38,8 @@ private:
     QList<std::pair<QByteArray, QByteArray>> ConditionFor(const WebAddress& address);
     void RequireUnchanged(const WebAddress& address, const WebVersion& known);
     [[noreturn]] void RaiseRefusedUpload(const WebAddress& address, const WebAnswer& answer);
+    // What the server tells of a file, if it does.
+    WebVersion VersionNow(const WebAddress& address);
     WebVersion VersionAfterUpload(const WebAnswer& answer, int file, qint64 bytes);
     void Move(const WebAddress& from, const WebAddress& to, bool overwrite);
     void CarryOver(const WebAddress& from, const WebAddress& to);

@@ -39,15 +39,13 @@ void WebLogin::BeginRequest(const WebAddress& address) {
         ne_forget_auth(session_);
 }
 
-void WebLogin::EndRequest(bool accepted) {
+void WebLogin::EndRequest(Outcome outcome) {
     if (raised_)
         std::rethrow_exception(raised_);
-    if (tried_ == Tried::Nothing)
-        return;
-    if (!accepted) {
+    if (outcome == Outcome::Refused)
         kept_.remove(realm_);
+    if (outcome != Outcome::Accepted || tried_ == Tried::Nothing)
         return;
-    }
     current_ = candidate_;
     kept_.insert(realm_, candidate_);
     if (tried_ == Tried::Asked)

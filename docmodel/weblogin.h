@@ -22,9 +22,10 @@ public:
     void AttachTo(ne_session* session);
     // Before each request: the user and password that stand in its address are tried first.
     void BeginRequest(const WebAddress& address);
-    // After it. `accepted`: the server answered without asking for a password once more. Raises
-    // what the source raised meanwhile.
-    void EndRequest(bool accepted);
+    enum class Outcome { Accepted, Refused, Unknown };
+    // After it. Accepted: the server answered without asking for a password once more. Raises what
+    // the source raised meanwhile.
+    void EndRequest(Outcome outcome);
     // Why the server got no password that it takes, as the reason of an error text.
     QString Problem() const;
 

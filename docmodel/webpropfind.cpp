@@ -17,10 +17,17 @@ constexpr char kVersionQuestion[] =
     "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<D:propfind xmlns:D=\"DAV:\"><D:prop>"
     "<D:resourcetype/><D:getetag/><D:getlastmodified/><D:getcontentlength/></D:prop></D:propfind>";
 
+// The text of an element, which mostly is one piece.
+QByteArray ValueOf(pugi::xml_node element) {
+    const pugi::xml_node piece = element.first_child();
+    const bool isPlain = piece.type() == pugi::node_pcdata && !piece.next_sibling();
+    return (isPlain ? QByteArray(piece.value()) : TextOf(element).toUtf8()).trimmed();
+}
+
 // "HTTP/1.1 200 OK"; 0 if it is none.
-int StatusOf(const QString& line) {
-    const QStringList words = line.simplified().split(u' ');
-    return words.size() > 1 ? words[1].toInt() : 0;
+int StatusOf(pugi::xml_node element) {
+    const QByteArray line = ValueOf(element);
+    return line.mid(line.indexOf(' ') + 1).left(3).toInt();
 }
 
 void ReadProperties(pugi::xml_node properties, WebResource& resource) {
@@ -29,12 +36,12 @@ void ReadProperties(pugi::xml_node properties, WebResource& resource) {
             resource.hasType = true;
             resource.isFolder = bool(ChildElement(property, kDav, "collection"));
         } else if (IsElement(property, kDav, "getetag")) {
-            resource.version.tag = TextOf(property).trimmed().toUtf8();
+            resource.version.tag = ValueOf(property);
         } else if (IsElement(property, kDav, "getlastmodified")) {
-            resource.version.modified = SecondsOf(TextOf(property).trimmed().toUtf8());
+            resource.version.modified = SecondsOf(ValueOf(property));
         } else if (IsElement(property, kDav, "getcontentlength")) {
             bool isNumber = false;
-            const qint64 length = TextOf(property).trimmed().toLongLong(&isNumber);
+            const qint64 length = ValueOf(property).toLongLong(&isNumber);
             resource.version.length = isNumber ? length : -1;
         }
     }
@@ -44,11 +51,11 @@ WebResource ReadResponse(pugi::xml_node response) {
     WebResource resource;
     for (const pugi::xml_node child : response) {
         if (IsElement(child, kDav, "href")) {
-            resource.href = TextOf(child).trimmed().toUtf8();
+            resource.href = ValueOf(child);
         } else if (IsElement(child, kDav, "status")) {
-            resource.isThere = StatusOf(TextOf(child)) / 100 == 2;
+            resource.isThere = StatusOf(child) / 100 == 2;
         } else if (IsElement(child, kDav, "propstat")) {
-            if (StatusOf(TextOf(ChildElement(child, kDav, "status"))) == 200)
+            if (StatusOf(ChildElement(child, kDav, "status")) == 200)
                 ReadProperties(ChildElement(child, kDav, "prop"), resource);
         }
     }
@@ -91,7 +98,7 @@ QByteArray NameIn(const WebAddress& folder, const QByteArray& href) {
         return {};
     const QByteArray& path = address->path;
     if (path.size() <= folder.path.size() ||
-        path.left(folder.path.size()).compare(folder.path, Qt::CaseInsensitive) != 0)
+        qstrnicmp(path.constData(), folder.path.constData(), size_t(folder.path.size())) != 0)
         return {};
     QByteArray name = path.mid(folder.path.size());
     if (name.endsWith('/'))
@@ -126,11 +133,10 @@ WebResource AskByHead(WebSession& session, const WebAddress& address, const QStr
 
 }  // namespace
 
-QList<WebResource> ReadMultistatus(const QByteArray& xml, const WebAddress& address,
-                                   const QString& done) {
+QList<WebResource> ReadMultistatus(QByteArray xml, const WebAddress& address, const QString& done) {
     const auto parsed = [&] {
         try {
-            return XmlPart::Parse(xml, address.Shown(), "answer");
+            return XmlPart::Parse(std::move(xml), address.Shown(), "answer");
         } catch (const DocumentError&) {  // speaks of a document
             throw WebError(address, done,
                            QStringLiteral("the server's list can't be read. Tell the server's "
@@ -147,7 +153,7 @@ QList<WebResource> ReadMultistatus(const QByteArray& xml, const WebAddress& addr
 }
 
 WebFolder AskForFolder(WebSession& session, const WebAddress& address, const QString& done) {
-    const Asked asked = Ask(session, address.AsFolder(), kEntriesQuestion, "1", done);
+    Asked asked = Ask(session, address.AsFolder(), kEntriesQuestion, "1", done);
     if (asked.answer.status != 207 && !asked.answer.IsSuccess())
         throw WebError(address, done, StatusReason(asked.answer.status, asked.answer.phrase));
     if (asked.answer.status != 207)
@@ -155,7 +161,7 @@ WebFolder AskForFolder(WebSession& session, const WebAddress& address, const QSt
     const WebAddress folder = asked.answer.address.AsFolder();
     WebFolder listed;
     QSet<QByteArray> seen;
-    for (WebResource& resource : ReadMultistatus(asked.xml, address, done)) {
+    for (WebResource& resource : ReadMultistatus(std::move(asked.xml), address, done)) {
         const QByteArray name = NameIn(folder, resource.href);
         if (name.isEmpty()) {
             if (resource.hasType && !resource.isFolder && IsOfFolder(folder, resource.href))
@@ -169,8 +175,12 @@ WebFolder AskForFolder(WebSession& session, const WebAddress& address, const QSt
     return listed;
 }
 
+void Knock(WebSession& session, const WebAddress& address, const QString& done) {
+    Ask(session, address, kVersionQuestion, "0", done);
+}
+
 WebResource AskFor(WebSession& session, const WebAddress& address, const QString& done) {
-    const Asked asked = Ask(session, address, kVersionQuestion, "0", done);
+    Asked asked = Ask(session, address, kVersionQuestion, "0", done);
     const int status = asked.answer.status;
     if (IsNoPropfind(status))
         return AskByHead(session, address, done);
@@ -181,7 +191,7 @@ WebResource AskFor(WebSession& session, const WebAddress& address, const QString
     }
     if (status != 207)
         throw WebError(address, done, StatusReason(status, asked.answer.phrase));
-    const QList<WebResource> resources = ReadMultistatus(asked.xml, address, done);
+    const QList<WebResource> resources = ReadMultistatus(std::move(asked.xml), address, done);
     if (resources.isEmpty())
         RaiseNoWebFolder(address, done);
     return resources.first();

@@ -20,8 +20,7 @@ struct WebResource {
 
 // Reads an answer of status 207. Raises DocumentError about `address` when it is none, whatever it
 // is instead.
-QList<WebResource> ReadMultistatus(const QByteArray& xml, const WebAddress& address,
-                                   const QString& done);
+QList<WebResource> ReadMultistatus(QByteArray xml, const WebAddress& address, const QString& done);
 
 // A folder and what lies right in it.
 struct WebFolder {
@@ -33,6 +32,9 @@ struct WebFolder {
 // in the folder, and those whose address has a way up in it. Raises DocumentError when the folder
 // can't be listed.
 WebFolder AskForFolder(WebSession& session, const WebAddress& address, const QString& done);
+
+// Asks for no more than an answer, so that the server has the password if it wants one.
+void Knock(WebSession& session, const WebAddress& address, const QString& done);
 
 // What is at an address now, with its version; `isThere` is false when there is nothing. Raises
 // DocumentError when the server does not tell.

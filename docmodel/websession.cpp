@@ -191,7 +191,10 @@ WebAnswer WebSession::SendOnce(const WebAddress& address, const WebRequest& requ
         throw;
     }
     watch_.Pause();
-    login_.EndRequest(result == NE_OK && answer.status != 401);
+    const bool isRefused = result == NE_AUTH || (result == NE_OK && answer.status == 401);
+    const auto otherwise =
+        result == NE_OK ? WebLogin::Outcome::Accepted : WebLogin::Outcome::Unknown;
+    login_.EndRequest(isRefused ? WebLogin::Outcome::Refused : otherwise);
     if (result != NE_OK) {
         CloseConnection();
         RaiseFailure(result, address, request);

@@ -98,6 +98,8 @@ private Q_SLOTS:
     void anEndlessWishForAPasswordEnds();
     void aBodyCutShortIsNoDownload_data();
     void aBodyCutShortIsNoDownload();
+    void aBodyWithoutItsLengthIsHeldAgainstTheServers_data();
+    void aBodyWithoutItsLengthIsHeldAgainstTheServers();
     void aStalledServerIsGivenUp_data();
     void aStalledServerIsGivenUp();
     void aStalledUploadIsGivenUp();
@@ -203,11 +205,15 @@ void TestWebFaults::aBodyCutShortIsNoDownload_data() {
 
 void TestWebFaults::aBodyCutShortIsNoDownload() {
     QFETCH(bool, isChunked);
-    const FaultServer server(Always({.headers = {{"ETag", "\"1\""}},
-                                     .body = QByteArray(100'000, 'x'),
-                                     .claimedLength = 200'000,
-                                     .isChunked = isChunked,
-                                     .hangsUp = true}));
+    const FaultServer server([isChunked](const Request& request) -> Reply {
+        if (request.method != "GET")
+            return {.status = request.method == "PUT" ? 412 : 404};
+        return {.headers = {{"ETag", "\"1\""}},
+                .body = QByteArray(100'000, 'x'),
+                .claimedLength = 200'000,
+                .isChunked = isChunked,
+                .hangsUp = true};
+    });
     Write(Local(), "old");
     const auto client = MakeClient();
     QVERIFY(!client->GetFile(server.Url(QStringLiteral("a")), Local()));
@@ -216,8 +222,28 @@ void TestWebFaults::aBodyCutShortIsNoDownload() {
     QVERIFY2(client->LastError().contains(QStringLiteral("broke off")),
              qPrintable(client->LastError()));
     // Nothing is known of a file that never came: an upload must find nothing there.
-    QVERIFY(client->PutFile(Local(), server.Url(QStringLiteral("a"))) || true);
-    QVERIFY(HeaderOfUpload(server, "if-match") != "\"1\"");
+    QVERIFY(!client->PutFile(Local(), server.Url(QStringLiteral("a"))));
+    QCOMPARE(HeaderOfUpload(server, "if-none-match"), QByteArray("*"));
+}
+
+void TestWebFaults::aBodyWithoutItsLengthIsHeldAgainstTheServers_data() {
+    QTest::addColumn<QByteArray>("sent");
+    QTest::newRow("whole") << QByteArray("first");
+    QTest::newRow("cut short") << QByteArray("fir");
+}
+
+void TestWebFaults::aBodyWithoutItsLengthIsHeldAgainstTheServers() {
+    QFETCH(QByteArray, sent);
+    const StoredFile file;
+    const FaultServer server([&](const Request& request) -> Reply {
+        if (request.method == "PROPFIND")
+            return file.Properties(request.path);
+        return {.body = sent, .hasLength = false, .hangsUp = true};
+    });
+    const auto client = MakeClient();
+    const bool isWhole = sent == file.body;
+    QCOMPARE(client->GetFile(server.Url(QStringLiteral("a")), Local()), isWhole);
+    QCOMPARE(LocalFiles().size(), isWhole ? 1 : 0);
 }
 
 void TestWebFaults::aStalledServerIsGivenUp_data() {

@@ -63,7 +63,7 @@ QByteArray Message(const FaultServer::Reply& reply, bool isHead) {
                QByteArray::number(reply.body.size(), 16) + "\r\n" + reply.body + "\r\n" +
                (reply.stalls || reply.hangsUp ? "" : "0\r\n\r\n");
     const qint64 length = reply.claimedLength < 0 ? reply.body.size() : reply.claimedLength;
-    if (reply.status != 204)
+    if (reply.hasLength && reply.status != 204)
         text += "Content-Length: " + QByteArray::number(length) + "\r\n";
     return text + "\r\n" + (isHead ? QByteArray() : reply.body);
 }

@@ -26,10 +26,11 @@ public:
         QList<std::pair<QByteArray, QByteArray>> headers = {};
         QByteArray body = {};
         qint64 claimedLength = -1;  // what "Content-Length" says, if not the truth
-        bool isChunked = false;     // instead of a length
-        bool stalls = false;        // says no more behind the body, but stays
-        bool takesBody = true;      // false: leaves the request's body unread, and stays
-        bool hangsUp = false;       // closes behind the body
+        bool hasLength = true;
+        bool isChunked = false;  // instead of a length
+        bool stalls = false;     // says no more behind the body, but stays
+        bool takesBody = true;   // false: leaves the request's body unread, and stays
+        bool hangsUp = false;    // closes behind the body
     };
     using Script = std::function<Reply(const Request&)>;
 
