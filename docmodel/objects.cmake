@@ -24,6 +24,7 @@ target_sources(docmodel_core PRIVATE
     webfolderlistingobject.cpp
     weblogin.cpp
     webpropfind.cpp
+    webreceiver.cpp
     websession.cpp
     webversion.cpp
     webwatch.cpp

@@ -9,14 +9,12 @@
 
 #include "docmodel/fileops.h"
 #include "docmodel/packageerror.h"
-#include "docmodel/siblingfile.h"
 #include "docmodel/weberror.h"
 #include "docmodel/webfolderlistingobject.h"
+#include "docmodel/webreceiver.h"
 
 namespace docmodel {
 namespace {
-
-constexpr unsigned kNewFileMode = 0666;  // of which the user's mask takes away
 
 QString Downloaded() {
     return QStringLiteral("downloaded");
@@ -38,10 +36,6 @@ void RequireSuccess(const WebAnswer& answer, const WebAddress& address, const QS
         throw WebError(address, done, StatusReason(answer.status, answer.phrase));
 }
 
-QCryptographicHash MakeHash() {
-    return QCryptographicHash(QCryptographicHash::Sha256);
-}
-
 QByteArray DigestOfFile(int file) {
     QCryptographicHash hash(QCryptographicHash::Sha256);
     QByteArray block(256 << 10, Qt::Uninitialized);
@@ -59,56 +53,6 @@ QString EntryPrefix(const QString& url) {
         prefix.chop(1);
     return prefix.endsWith(u'/') ? prefix : prefix + u'/';
 }
-
-// The download's own file until it is whole.
-class Receiver {
-public:
-    explicit Receiver(const QString& localPath)
-        : localPath_(localPath), file_(QFile::encodeName(localPath), kNewFileMode) {
-        if (!file_.IsOpen())
-            throw SystemError(localPath_, QStringLiteral("written"), errno);
-    }
-
-    void Start(const WebAnswer& answer) {
-        version_ = VersionOf(answer);
-        expected_ = version_.length;
-        received_ = 0;
-        hash_.reset();
-    }
-
-    void Take(const char* bytes, size_t count) {
-        if (!WriteAll(file_.Get(), bytes, count, received_))
-            throw SystemError(localPath_, QStringLiteral("written"), errno);
-        received_ += qint64(count);
-        if (!version_.HasValidator())
-            hash_.addData(QByteArrayView(bytes, qsizetype(count)));
-    }
-
-    bool IsWhole() const { return expected_ < 0 || expected_ == received_; }
-    void Expect(qint64 length) { expected_ = length; }
-    bool KnowsLength() const { return expected_ >= 0; }
-
-    WebVersion Version() const {
-        WebVersion version = version_;
-        version.length = received_;
-        if (!version.HasValidator())
-            version.digest = hash_.result();
-        return version;
-    }
-
-    void Place() {
-        if (!file_.PlaceUnsynced())
-            throw SystemError(localPath_, QStringLiteral("written"), errno);
-    }
-
-private:
-    const QString localPath_;
-    SiblingFile file_;
-    WebVersion version_;
-    QCryptographicHash hash_ = MakeHash();
-    qint64 expected_ = -1;
-    qint64 received_ = 0;
-};
 
 }  // namespace
 
@@ -134,7 +78,7 @@ bool WebFolderClientObject::GetFile(const QString& url, const QString& localPath
 }
 
 void WebFolderClientObject::Download(const WebAddress& address, const QString& localPath) {
-    Receiver receiver(localPath);
+    WebReceiver receiver(localPath);
     WebRequest request{.method = "GET", .done = Downloaded()};
     request.headers = {{"Accept-Encoding", "identity"}};
     request.started = [&](const WebAnswer& answer) { receiver.Start(answer); };
@@ -224,7 +168,7 @@ void WebFolderClientObject::RequireUnchanged(const WebAddress& address, const We
 }
 
 QByteArray WebFolderClientObject::DigestOnServer(const WebAddress& address) {
-    QCryptographicHash hash = MakeHash();
+    QCryptographicHash hash(QCryptographicHash::Sha256);
     WebRequest request{.method = "GET", .done = Uploaded()};
     request.started = [&](const WebAnswer&) { hash.reset(); };
     request.received = [&](const char* bytes, size_t count) {

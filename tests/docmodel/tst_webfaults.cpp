@@ -5,74 +5,28 @@
 #include <QTcpServer>
 #include <QTemporaryDir>
 #include <QTest>
+#include <cerrno>
+#include <utility>
 
+#include "docmodel/fileops.h"
+#include "tests/docmodel/storedfile.h"
 #include "tests/docmodel/webtools.h"
 #include "tests/support/faultserver.h"
 #include "tests/support/testenvironment.h"
 
 using docbench::FaultServer;
+using docmodel::Always;
 using docmodel::AnsweringUser;
 using docmodel::EntriesOf;
+using docmodel::HeaderOfUpload;
 using docmodel::MakeClient;
 using docmodel::Read;
+using docmodel::StoredFile;
 using docmodel::Write;
 using Reply = FaultServer::Reply;
 using Request = FaultServer::Request;
 
 namespace {
-
-FaultServer::Script Always(const Reply& reply) {
-    return [reply](const Request&) { return reply; };
-}
-
-// One file on a server that tells of it what the test likes.
-struct StoredFile {
-    QByteArray body = "first";
-    QByteArray tag = {};
-    QByteArray modified = {};
-    QList<std::pair<QByteArray, QByteArray>> extra = {};  // more headers of a download
-
-    QList<std::pair<QByteArray, QByteArray>> Headers() const {
-        QList<std::pair<QByteArray, QByteArray>> headers = extra;
-        if (!tag.isEmpty())
-            headers.append({"ETag", tag});
-        if (!modified.isEmpty())
-            headers.append({"Last-Modified", modified});
-        return headers;
-    }
-
-    Reply Properties(const QByteArray& path) const {
-        QByteArray found = "<resourcetype/><getcontentlength>" + QByteArray::number(body.size()) +
-                           "</getcontentlength>";
-        if (!tag.isEmpty())
-            found += "<getetag>" + tag + "</getetag>";
-        if (!modified.isEmpty())
-            found += "<getlastmodified>" + modified + "</getlastmodified>";
-        return {.status = 207,
-                .body = "<multistatus xmlns=\"DAV:\"><response><href>" + path +
-                        "</href><propstat><prop>" + found +
-                        "</prop><status>HTTP/1.1 200 OK</status></propstat></response>"
-                        "</multistatus>"};
-    }
-};
-
-// Serves it, whatever the address. Uploads succeed and change nothing.
-FaultServer::Script Serving(const StoredFile& file) {
-    return [&file](const Request& request) -> Reply {
-        if (request.method == "PROPFIND")
-            return file.Properties(request.path);
-        if (request.method == "PUT")
-            return {.status = 204};
-        return {.headers = file.Headers(), .body = file.body};
-    };
-}
-
-QByteArray HeaderOfUpload(const FaultServer& server, const char* name) {
-    for (const Request& request : server.Requests())
-        if (request.method == "PUT")
-            return request.headers.value(name, "(none)");
-    return "(no upload)";
-}
 
 QByteArray Multistatus(const QByteArray& responses) {
     return "<?xml version=\"1.0\"?><D:multistatus xmlns:D=\"DAV:\">" + responses +
@@ -108,20 +62,11 @@ private Q_SLOTS:
     void aClientGoesOnAfterAFault();
     void anEndlessErrorPageIsNotReadToItsEnd();
     void aPackedBodyIsNotTakenForTheFile();
+    void aFullDiskEndsTheDownload();
+    void aMissingLocalFolderIsTold();
     void aRedirectLoopEnds();
     void aRedirectToAnotherServerIsNotFollowed();
     void aLineBreakInAnAddressIsNoHeader();
-
-    void anUploadIsConditionalOnTheTagOfItsDownload();
-    void theTagOfAnUploadIsTheConditionOfTheNext();
-    void aFirstUploadMustFindNothing();
-    void anAllowedUploadHasNoCondition();
-    void aWeakTagIsHeldAgainstTheServers_data();
-    void aWeakTagIsHeldAgainstTheServers();
-    void aTagOfAProxyIsNoCondition();
-    void withoutTagAndDateTheContentsDecide();
-    void anUploadThatSomebodyReplacedAtOnceIsNotTakenForOurs();
-    void aRefusedConditionIsExplained();
 
     void aLongListingIsComplete();
     void aHostileListingIsRefused_data();
@@ -334,6 +279,37 @@ void TestWebFaults::aPackedBodyIsNotTakenForTheFile() {
     QCOMPARE(server.Requests().first().headers.value("accept-encoding"), QByteArray("identity"));
 }
 
+void TestWebFaults::aFullDiskEndsTheDownload() {
+    class FullDisk : public docmodel::FileOps {
+    public:
+        ssize_t Write(int, const void*, size_t, off_t) override {
+            errno = ENOSPC;
+            return -1;
+        }
+    };
+    const FaultServer server(Always({.body = QByteArray(1 << 20, 'x')}));
+    const auto client = MakeClient();
+    Write(Local(), "old");
+    FullDisk full;
+    docmodel::FileOps* const real = std::exchange(docmodel::gFileOps, &full);
+    const bool isDone = client->GetFile(server.Url(QStringLiteral("a")), Local());
+    docmodel::gFileOps = real;
+    QVERIFY(!isDone);
+    QVERIFY2(client->LastError().contains(QStringLiteral("the disk is full")),
+             qPrintable(client->LastError()));
+    QCOMPARE(Read(Local()), QByteArray("old"));
+    QCOMPARE(LocalFiles().size(), 1);
+    QVERIFY(client->GetFile(server.Url(QStringLiteral("a")), Local()));
+}
+
+void TestWebFaults::aMissingLocalFolderIsTold() {
+    const FaultServer server(Always({.body = "text"}));
+    const auto client = MakeClient();
+    const QString local = local_->filePath(QStringLiteral("none/copy"));
+    QVERIFY(!client->GetFile(server.Url(QStringLiteral("a")), local));
+    QVERIFY2(client->LastError().contains(local), qPrintable(client->LastError()));
+}
+
 void TestWebFaults::aRedirectLoopEnds() {
     const FaultServer server([](const Request& request) -> Reply {
         return {.status = 302, .headers = {{"Location", request.path + "x"}}};
@@ -371,143 +347,6 @@ void TestWebFaults::aLineBreakInAnAddressIsNoHeader() {
     QVERIFY(!client->MoveResource(server.Url(QStringLiteral("a")),
                                   QStringLiteral("http://127.0.0.1\r\nX: 1/a"), 1));
     QCOMPARE(server.Count("MOVE"), 0);
-}
-
-void TestWebFaults::anUploadIsConditionalOnTheTagOfItsDownload() {
-    const StoredFile file{.tag = "\"one\""};
-    const FaultServer server(Serving(file));
-    const auto client = MakeClient();
-    QVERIFY(client->GetFile(server.Url(QStringLiteral("a")), Local()));
-    QVERIFY2(client->PutFile(Local(), server.Url(QStringLiteral("a"))),
-             qPrintable(client->LastError()));
-    QCOMPARE(HeaderOfUpload(server, "if-match"), QByteArray("\"one\""));
-    QCOMPARE(HeaderOfUpload(server, "if-none-match"), QByteArray("(none)"));
-    QCOMPARE(server.Count("GET"), 1);
-}
-
-void TestWebFaults::theTagOfAnUploadIsTheConditionOfTheNext() {
-    const FaultServer server([](const Request& request) -> Reply {
-        if (request.method == "PROPFIND")
-            return {.status = 404};
-        return {.status = 201, .headers = {{"ETag", "\"new\""}}};
-    });
-    const auto client = MakeClient();
-    Write(Local(), "ours");
-    QVERIFY(client->PutFile(Local(), server.Url(QStringLiteral("a"))));
-    QVERIFY(client->PutFile(Local(), server.Url(QStringLiteral("a"))));
-    QCOMPARE(server.Requests().last().headers.value("if-match"), QByteArray("\"new\""));
-    QCOMPARE(server.Count("PROPFIND"), 1);  // only to get acquainted
-}
-
-void TestWebFaults::aFirstUploadMustFindNothing() {
-    const StoredFile file{.tag = "\"one\""};
-    const FaultServer server(Serving(file));
-    const auto client = MakeClient();
-    Write(Local(), "ours");
-    QVERIFY(client->PutFile(Local(), server.Url(QStringLiteral("a"))));
-    QCOMPARE(HeaderOfUpload(server, "if-none-match"), QByteArray("*"));
-    QCOMPARE(HeaderOfUpload(server, "if-match"), QByteArray("(none)"));
-}
-
-void TestWebFaults::anAllowedUploadHasNoCondition() {
-    const StoredFile file{.tag = "\"one\""};
-    const FaultServer server(Serving(file));
-    const auto client = MakeClient();
-    Write(Local(), "ours");
-    client->AllowOverwrite(server.Url(QStringLiteral("a")));
-    QVERIFY(client->PutFile(Local(), server.Url(QStringLiteral("a"))));
-    QCOMPARE(HeaderOfUpload(server, "if-none-match"), QByteArray("(none)"));
-    QCOMPARE(HeaderOfUpload(server, "if-match"), QByteArray("(none)"));
-}
-
-void TestWebFaults::aWeakTagIsHeldAgainstTheServers_data() {
-    QTest::addColumn<QByteArray>("later");
-    QTest::addColumn<bool>("isAllowed");
-    QTest::newRow("the same") << QByteArray("W/\"one\"") << true;
-    QTest::newRow("grown strong") << QByteArray("\"one\"") << true;
-    QTest::newRow("another") << QByteArray("W/\"two\"") << false;
-}
-
-void TestWebFaults::aWeakTagIsHeldAgainstTheServers() {
-    QFETCH(QByteArray, later);
-    QFETCH(bool, isAllowed);
-    StoredFile file{.tag = "W/\"one\""};
-    const FaultServer server(Serving(file));
-    const auto client = MakeClient();
-    QVERIFY(client->GetFile(server.Url(QStringLiteral("a")), Local()));
-    file.tag = later;
-    QCOMPARE(client->PutFile(Local(), server.Url(QStringLiteral("a"))), isAllowed);
-    QCOMPARE(server.Count("PUT"), isAllowed ? 1 : 0);
-    if (isAllowed)
-        QCOMPARE(HeaderOfUpload(server, "if-match"), QByteArray("(none)"));
-    else
-        QVERIFY2(client->LastError().contains(
-                     QStringLiteral("was changed on the server since it was downloaded")),
-                 qPrintable(client->LastError()));
-}
-
-void TestWebFaults::aTagOfAProxyIsNoCondition() {
-    StoredFile file{.tag = "\"proxy\"",
-                    .modified = "Mon, 02 Jan 2023 03:04:05 GMT",
-                    .extra = {{"Via", "1.1 cache"}}};
-    const FaultServer server(Serving(file));
-    const auto client = MakeClient();
-    QVERIFY(client->GetFile(server.Url(QStringLiteral("a")), Local()));
-    file.tag = "\"servers-own\"";
-    QVERIFY2(client->PutFile(Local(), server.Url(QStringLiteral("a"))),
-             qPrintable(client->LastError()));
-    QCOMPARE(HeaderOfUpload(server, "if-match"), QByteArray("(none)"));
-    QVERIFY(client->GetFile(server.Url(QStringLiteral("a")), Local()));
-    file.modified = "Mon, 02 Jan 2023 03:04:06 GMT";
-    QVERIFY(!client->PutFile(Local(), server.Url(QStringLiteral("a"))));
-    QCOMPARE(server.Count("PUT"), 1);
-}
-
-void TestWebFaults::withoutTagAndDateTheContentsDecide() {
-    StoredFile file;
-    const FaultServer server(Serving(file));
-    const auto client = MakeClient();
-    const QString url = server.Url(QStringLiteral("a"));
-    QVERIFY(client->GetFile(url, Local()));
-    QVERIFY2(client->PutFile(Local(), url), qPrintable(client->LastError()));
-    QVERIFY2(client->PutFile(Local(), url), qPrintable(client->LastError()));
-    file.body = "FIRST";  // as long as before
-    QVERIFY(!client->PutFile(Local(), url));
-    QCOMPARE(server.Count("PUT"), 2);
-    QVERIFY2(client->LastError().contains(QStringLiteral("was changed on the server")),
-             qPrintable(client->LastError()));
-}
-
-void TestWebFaults::anUploadThatSomebodyReplacedAtOnceIsNotTakenForOurs() {
-    // The answer to the upload has no tag, and the next question finds another's longer file.
-    const StoredFile file{.body = "somebody's longer work", .tag = "\"theirs\""};
-    const FaultServer server(Serving(file));
-    const auto client = MakeClient();
-    Write(Local(), "ours");
-    QVERIFY(client->PutFile(Local(), server.Url(QStringLiteral("a"))));
-    QVERIFY(!client->PutFile(Local(), server.Url(QStringLiteral("a"))));
-    QCOMPARE(server.Count("PUT"), 1);
-}
-
-void TestWebFaults::aRefusedConditionIsExplained() {
-    StoredFile file{.tag = "\"one\""};
-    const FaultServer server([&file](const Request& request) -> Reply {
-        return request.method == "PUT" ? Reply{.status = 412} : Serving(file)(request);
-    });
-    const auto client = MakeClient();
-    const QString url = server.Url(QStringLiteral("a"));
-    QVERIFY(client->GetFile(url, Local()));
-    QVERIFY(!client->PutFile(Local(), url));
-    QVERIFY2(client->LastError().contains(QStringLiteral("does not agree")),
-             qPrintable(client->LastError()));
-    file.tag = "\"two\"";
-    QVERIFY(!client->PutFile(Local(), url));
-    QVERIFY2(client->LastError().contains(
-                 QStringLiteral("was changed on the server since it was downloaded")),
-             qPrintable(client->LastError()));
-    QVERIFY(!client->PutFile(Local(), server.Url(QStringLiteral("unknown"))));
-    QVERIFY2(client->LastError().contains(QStringLiteral("there is such a file")),
-             qPrintable(client->LastError()));
 }
 
 void TestWebFaults::aLongListingIsComplete() {
