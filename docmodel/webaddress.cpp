@@ -30,27 +30,32 @@ int EscapeAt(const QByteArray& text, qsizetype at) {
     return high < 0 || low < 0 ? -1 : high * 16 + low;
 }
 
-void AppendEscape(QByteArray& to, char byte) {
+constexpr qsizetype kEscapeLength = 3;
+
+// Behind `to`, where there must be room.
+char* WriteEscape(char* to, char byte) {
     constexpr char kDigits[] = "0123456789ABCDEF";
     const auto value = static_cast<unsigned char>(byte);
-    to += '%';
-    to += kDigits[value >> 4];
-    to += kDigits[value & 15];
+    *to++ = '%';
+    *to++ = kDigits[value >> 4];
+    *to++ = kDigits[value & 15];
+    return to;
 }
 
 QByteArray EscapedPath(const QByteArray& text) {
-    QByteArray escaped;
-    escaped.reserve(text.size() + text.size() / 4);
+    QByteArray escaped(text.size() * kEscapeLength, Qt::Uninitialized);
+    char* end = escaped.data();
     for (qsizetype i = 0; i < text.size(); ++i) {
         const int escape = EscapeAt(text, i);
         const char byte = escape < 0 ? text[i] : char(escape);
         if (IsUnreserved(byte) || (byte == '/' && escape < 0))
-            escaped += byte;
+            *end++ = byte;
         else
-            AppendEscape(escaped, byte);
+            end = WriteEscape(end, byte);
         if (escape >= 0)
             i += 2;
     }
+    escaped.truncate(end - escaped.constData());
     return escaped;
 }
 
@@ -147,15 +152,15 @@ bool MustStayEscaped(const QByteArray& bytes, qsizetype at, bool isUtf8) {
 QString UnescapedSegment(const QByteArray& escaped) {
     const QByteArray bytes = QByteArray::fromPercentEncoding(escaped);
     const bool isUtf8 = QUtf8StringView(bytes).isValidUtf8();
-    QByteArray shown;
-    shown.reserve(bytes.size());
+    QByteArray shown(bytes.size() * kEscapeLength, Qt::Uninitialized);
+    char* end = shown.data();
     for (qsizetype i = 0; i < bytes.size(); ++i) {
         if (MustStayEscaped(bytes, i, isUtf8))
-            AppendEscape(shown, bytes[i]);
+            end = WriteEscape(end, bytes[i]);
         else
-            shown += bytes[i];
+            *end++ = bytes[i];
     }
-    return QString::fromUtf8(shown);
+    return QString::fromUtf8(shown.constData(), end - shown.constData());
 }
 
 }  // namespace
@@ -209,6 +214,8 @@ bool WebAddress::HasDotSegments() const {
 QString UnescapedForUser(const QByteArray& escaped) {
     if (!escaped.contains('%'))
         return QString::fromUtf8(escaped);
+    if (!escaped.contains('/'))
+        return UnescapedSegment(escaped);
     QStringList segments;
     for (const QByteArray& segment : escaped.split('/'))
         segments.append(UnescapedSegment(segment));

@@ -1,6 +1,8 @@
 #include "docmodel/webpropfind.h"
 
 #include <QSet>
+#include <cstdlib>
+#include <cstring>
 
 #include "docmodel/weberror.h"
 #include "docmodel/xml.h"
@@ -26,8 +28,9 @@ QByteArray ValueOf(pugi::xml_node element) {
 
 // "HTTP/1.1 200 OK"; 0 if it is none.
 int StatusOf(pugi::xml_node element) {
-    const QByteArray line = ValueOf(element);
-    return line.mid(line.indexOf(' ') + 1).left(3).toInt();
+    const char* text = element.child_value();
+    const char* blank = std::strchr(text + std::strspn(text, " \t\r\n"), ' ');
+    return blank ? std::atoi(blank) : 0;
 }
 
 void ReadProperties(pugi::xml_node properties, WebResource& resource) {
