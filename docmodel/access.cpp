@@ -5,6 +5,7 @@
 #include "docmodel/foldersearcherobject.h"
 #include "docmodel/languagesettingsobject.h"
 #include "docmodel/previewextractorobject.h"
+#include "docmodel/webfolderclientobject.h"
 
 namespace docmodel {
 
@@ -26,6 +27,11 @@ std::unique_ptr<docbench::PreviewExtractor> Access::MakePreviewExtractor() {
 
 std::unique_ptr<docbench::LanguageSettings> Access::MakeLanguageSettings() {
     return std::make_unique<LanguageSettingsObject>();
+}
+
+std::unique_ptr<docbench::WebFolderClient> Access::MakeWebFolderClient(
+    const docbench::WebClientSettings& settings) {
+    return std::make_unique<WebFolderClientObject>(settings);
 }
 
 }  // namespace docmodel

@@ -13,6 +13,8 @@ public:
     std::unique_ptr<docbench::FolderSearcher> MakeFolderSearcher() override;
     std::unique_ptr<docbench::PreviewExtractor> MakePreviewExtractor() override;
     std::unique_ptr<docbench::LanguageSettings> MakeLanguageSettings() override;
+    std::unique_ptr<docbench::WebFolderClient> MakeWebFolderClient(
+        const docbench::WebClientSettings& settings) override;
 };
 
 }  // namespace docmodel

@@ -18,6 +18,16 @@ target_sources(docmodel_core PRIVATE
     propertyset.cpp
     propertyvalue.cpp
     referencepath.cpp
+    webaddress.cpp
+    weberror.cpp
+    webfolderclientobject.cpp
+    webfolderlistingobject.cpp
+    weblogin.cpp
+    webpropfind.cpp
+    webreceiver.cpp
+    websession.cpp
+    webversion.cpp
+    webwatch.cpp
     xml.cpp
     # What a document's name means and who the user is has one home; the library takes it from there
     # without taking the services.

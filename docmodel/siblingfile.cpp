@@ -55,6 +55,13 @@ bool SiblingFile::PlaceUnlessThere(bool& placed) {
     return FinishPlacing(gFileOps->RenameNoReplace(path_.constData(), target_.constData()), placed);
 }
 
+bool SiblingFile::PlaceUnsynced() {
+    if (gFileOps->Rename(path_.constData(), target_.constData()) != 0)
+        return false;
+    path_.clear();
+    return true;
+}
+
 bool SiblingFile::FinishPlacing(int renamed, bool& placed) {
     placed = renamed == 0;
     if (!placed)

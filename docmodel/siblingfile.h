@@ -28,6 +28,8 @@ public:
     // whether the target has its name all the same.
     bool PlaceOver(bool& placed);         // replaces what is there
     bool PlaceUnlessThere(bool& placed);  // fails with EEXIST
+    // Renames without syncing, for a copy that a power failure may take. False with errno set.
+    bool PlaceUnsynced();
 
 private:
     bool FinishPlacing(int renamed, bool& placed);

@@ -124,7 +124,8 @@ bool Declares(const char* attribute, const char* prefix, size_t length) {
 
 const char* NamespaceOfPrefix(pugi::xml_node scope, const char* prefix, size_t length) {
     for (; scope; scope = scope.parent())
-        for (const pugi::xml_attribute attribute : scope.attributes())
+        for (pugi::xml_attribute attribute = scope.first_attribute(); attribute;
+             attribute = attribute.next_attribute())
             if (Declares(attribute.name(), prefix, length))
                 return attribute.value();
     return "";

@@ -1,6 +1,8 @@
 #include "services/credentials.h"
 
+#include <QCoreApplication>
 #include <QSet>
+#include <QTimer>
 
 #include "services/dialogs.h"
 #include "services/docaccess.h"
@@ -35,9 +37,13 @@ public:
         }
         if (attempt > 0 && gSeams.keyring)
             gSeams.keyring->Delete(entry);  // what it held was refused
-        const auto answer = gSeams.dialogs->AskPassword(server, realm, attempt > 0);
-        if (!answer)
+        if (cancelled_.contains(entry))
             return std::nullopt;
+        const auto answer = gSeams.dialogs->AskPassword(server, realm, attempt > 0);
+        if (!answer) {
+            RememberCancel(entry);
+            return std::nullopt;
+        }
         if (answer->remember)
             toKeep_.insert(entry);
         else
@@ -53,6 +59,14 @@ public:
     }
 
 private:
+    // A tree of a hundred documents asks a hundred times; the user is asked once for what he does
+    // now, and again when he does something else.
+    void RememberCancel(const QString& entry) {
+        cancelled_.insert(entry);
+        QTimer::singleShot(0, QCoreApplication::instance(), [this] { cancelled_.clear(); });
+    }
+
+    QSet<QString> cancelled_;
     QSet<QString> toKeep_;  // the user ticked that the answer be kept, once it is right
 };
 

@@ -247,6 +247,16 @@ private Q_SLOTS:
         QVERIFY(keyring.secrets.isEmpty());
     }
 
+    void aCancelHoldsUntilTheUserDoesSomethingElse() {
+        TestDialogs dialogs;
+        dialogs.ExpectPassword(std::nullopt);
+        QVERIFY(!WebCredentials().Ask("https://u:443", "docs", 0));
+        QVERIFY(!WebCredentials().Ask("https://u:443", "docs", 0));  // not asked again
+        QCoreApplication::processEvents();
+        dialogs.ExpectPassword(Dialogs::Password{"ann", "secret", false});
+        QVERIFY(WebCredentials().Ask("https://u:443", "docs", 0));
+    }
+
     void withoutTheTickNothingIsKept() {
         FakeKeyRing keyring;
         TestDialogs dialogs;
