@@ -150,10 +150,48 @@ public:
     virtual QByteArray GetStamp(Table table) = 0;
 };
 
-// Reads and writes the values of one settings key.
+// What FindReferences is asked for.
+struct ReferenceQuery {
+    QString pattern;       // folder, separator and file name pattern; "*.*" is every document
+    int fullPathFlag = 0;  // 1: a reference must lead to `fullPath`; 0: name and extension count
+    QString baseName;      // of the target, without extension; letter case is ignored
+    QString extension;     // of the target; "*" for any
+    QString fullPath;
+    int mask = 7;  // sum of 1 plain, 2 in-context, 4 mirrored references
+};
+
+// `document` holds the reference `reference` at position `referenceIndex` of one of its tables.
+struct FoundReference {
+    int referenceIndex = 0;
+    bool inContext = false;  // in the external table, else among the components
+    QString reference;       // cleaned path or URL
+    QString document;        // the folder of the pattern, a separator and the file name
+    QByteArray stamp;        // of the table, as the search saw it
+};
+
+// How much a search looked at.
+struct SearchCounts {
+    int documents = 0;  // looked at, the unread ones included
+    int unread = 0;     // that could not be read
+};
+
+// Looks through a folder for documents that refer to a target, and reads and writes the values of
+// one settings key.
 class FolderSearcher {
 public:
     virtual ~FolderSearcher() = default;
+
+    // Fills the rows with the references of the folder's documents to the target, in the order of
+    // the files' names, and the list of the folder's subfolders. Component rows count as plain
+    // ones, external rows from part to part as mirrored, other external rows as in-context. A
+    // document that can't be read is counted and passed over; a folder that can't be read raises.
+    virtual int FindReferences(const ReferenceQuery& query) = 0;
+    virtual void ClearResults() = 0;  // frees the rows; the subfolders stay for the walk to go on
+    virtual int GetResultCount() = 0;
+    virtual FoundReference GetResult(int index) = 0;
+    virtual int GetSubfolderCount() = 0;
+    virtual QString GetSubfolder(int index) = 0;  // a whole path, without a separator at its end
+    virtual SearchCounts GetSearchCounts() = 0;   // of all searches of this object
 
     virtual int GetRegistryValueCount() = 0;
     // Name and value of the value at `index`, in the key's order from 0; empty texts beyond the

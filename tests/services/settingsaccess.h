@@ -10,6 +10,13 @@ namespace docbench {
 class SettingsSearcher : public FolderSearcher {
 public:
     explicit SettingsSearcher(int& opened) : opened_(opened) {}
+    int FindReferences(const ReferenceQuery&) override { return 0; }
+    void ClearResults() override {}
+    int GetResultCount() override { return 0; }
+    FoundReference GetResult(int) override { return {}; }
+    int GetSubfolderCount() override { return 0; }
+    QString GetSubfolder(int) override { return {}; }
+    SearchCounts GetSearchCounts() override { return {}; }
     int GetRegistryValueCount() override { return int(key_->ValueNames().size()); }
     std::pair<QString, QString> EnumRegistryValue(int index) override {
         const QString name = key_->ValueNames().value(index);
