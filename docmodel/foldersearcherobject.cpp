@@ -2,7 +2,57 @@
 
 namespace docmodel {
 
+using docbench::DocumentError;
+using docbench::FoundReference;
+using docbench::SearchCounts;
 using docbench::SettingsKey;
+
+namespace {
+
+void RequireIndex(int index, qsizetype count, const char* what) {
+    if (index < 0 || index >= count)
+        throw DocumentError(QStringLiteral("The search gave %1 %2, and there is none at position "
+                                           "%3. Search again.")
+                                .arg(count)
+                                .arg(QLatin1String(what))
+                                .arg(index));
+}
+
+}  // namespace
+
+int FolderSearcherObject::FindReferences(const docbench::ReferenceQuery& query) {
+    findings_ = {};
+    findings_ = SearchFolder(query, known_);
+    counts_.documents += findings_.counts.documents;
+    counts_.unread += findings_.counts.unread;
+    return int(findings_.rows.size());
+}
+
+void FolderSearcherObject::ClearResults() {
+    findings_.rows = {};
+}
+
+int FolderSearcherObject::GetResultCount() {
+    return int(findings_.rows.size());
+}
+
+FoundReference FolderSearcherObject::GetResult(int index) {
+    RequireIndex(index, findings_.rows.size(), "references");
+    return findings_.rows[index];
+}
+
+int FolderSearcherObject::GetSubfolderCount() {
+    return int(findings_.subfolders.size());
+}
+
+QString FolderSearcherObject::GetSubfolder(int index) {
+    RequireIndex(index, findings_.subfolders.size(), "subfolders");
+    return findings_.subfolders[index];
+}
+
+SearchCounts FolderSearcherObject::GetSearchCounts() {
+    return counts_;
+}
 
 int FolderSearcherObject::GetRegistryValueCount() {
     return key_ ? int(key_->ValueNames().size()) : 0;

@@ -1,8 +1,10 @@
-// The library's FolderSearcher: the values of one settings key below the current user.
+// The library's FolderSearcher: searches folders for references, and reads and writes the values of
+// one settings key below the current user.
 #pragma once
 
 #include <memory>
 
+#include "docmodel/foldersearch.h"
 #include "services/docaccess.h"
 #include "services/settingsstore.h"
 
@@ -10,6 +12,14 @@ namespace docmodel {
 
 class FolderSearcherObject : public docbench::FolderSearcher {
 public:
+    int FindReferences(const docbench::ReferenceQuery& query) override;
+    void ClearResults() override;
+    int GetResultCount() override;
+    docbench::FoundReference GetResult(int index) override;
+    int GetSubfolderCount() override;
+    QString GetSubfolder(int index) override;
+    docbench::SearchCounts GetSearchCounts() override;
+
     int GetRegistryValueCount() override;
     std::pair<QString, QString> EnumRegistryValue(int index) override;
     int SetRegistryValue(const QString& name, const QString& value) override;
@@ -18,6 +28,9 @@ public:
     int OpenRegistryKey(const QString& keyPath) override;
 
 private:
+    FolderFindings findings_;                     // of the last search
+    std::set<FolderIdentity> known_;              // the folders that were searched
+    docbench::SearchCounts counts_;               // of all searches
     std::unique_ptr<docbench::SettingsKey> key_;  // null: no key is open
 };
 

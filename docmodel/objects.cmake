@@ -10,6 +10,9 @@ target_sources(docmodel_core PRIVATE
     documentfileobject.cpp
     documentinfoobject.cpp
     documentpart.cpp
+    documentreferences.cpp
+    folderlisting.cpp
+    foldersearch.cpp
     foldersearcherobject.cpp
     languagesettingsobject.cpp
     opc.cpp
@@ -18,6 +21,7 @@ target_sources(docmodel_core PRIVATE
     propertyset.cpp
     propertyvalue.cpp
     referencepath.cpp
+    referencetarget.cpp
     webaddress.cpp
     weberror.cpp
     webfolderclientobject.cpp

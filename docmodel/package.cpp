@@ -23,9 +23,9 @@ QByteArray SystemPath(const QString& path) {
     return bytes;
 }
 
-FileDescriptor OpenForReading(const QString& path, struct stat& status) {
-    FileDescriptor file(
-        open(SystemPath(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+FileDescriptor OpenForReading(int folder, const char* name, const QString& path,
+                              struct stat& status) {
+    FileDescriptor file(openat(folder, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
     if (!file.IsOpen() || fstat(file.Get(), &status) != 0)
         throw SystemError(path, QStringLiteral("opened"), errno);
     if (S_ISDIR(status.st_mode))
@@ -74,15 +74,23 @@ Package& Package::operator=(Package&&) noexcept = default;
 Package::~Package() = default;
 
 Package Package::Open(const QString& path) {
+    return OpenAt(AT_FDCWD, SystemPath(path).constData(), path);
+}
+
+Package Package::OpenAt(int folder, const char* name, const QString& path) {
     auto data = std::make_unique<Data>();
     data->path = path;
-    data->file = OpenForReading(path, data->status);
+    data->file = OpenForReading(folder, name, path, data->status);
     data->ReadState();
     return Package(std::move(data));
 }
 
 const QString& Package::Path() const {
     return data_->path;
+}
+
+const struct stat& Package::Status() const {
+    return data_->status;
 }
 
 QList<QByteArray> Package::PartNames() const {

@@ -9,6 +9,8 @@
 
 #include "services/docaccess.h"
 
+struct stat;
+
 namespace docmodel {
 
 using docbench::DocumentError;
@@ -24,11 +26,14 @@ public:
     // Raises DocumentError (not there, no regular file, no permission, no package, torn, too many
     // parts, two parts of one name, ...).
     static Package Open(const QString& path);
+    // The same for the file `name` of the open folder `folder`; `path` stands in error texts.
+    static Package OpenAt(int folder, const char* name, const QString& path);
     Package(Package&&) noexcept;
     Package& operator=(Package&&) noexcept;
     ~Package();
 
     const QString& Path() const;
+    const struct stat& Status() const;           // of the file, from before it was read
     QList<QByteArray> PartNames() const;         // in directory order, without folders
     bool HasPart(const QByteArray& name) const;  // part names compare without regard to ASCII case
     // The uncompressed bytes of a part, at most `limit` of them, with size and CRC checked. Raises

@@ -32,9 +32,11 @@ struct Package::Data {
     ZipDirectory directory;
 };
 
-// Opens a document for reading and makes sure that it is a regular file, never waiting for the
-// other end of a pipe. Raises DocumentError.
-FileDescriptor OpenForReading(const QString& path, struct stat& status);
+// Opens the document `name` of the open folder `folder` (or AT_FDCWD) for reading and makes sure
+// that it is a regular file, never waiting for the other end of a pipe. Raises DocumentError, which
+// names `path`.
+FileDescriptor OpenForReading(int folder, const char* name, const QString& path,
+                              struct stat& status);
 
 // The path as the system calls take it. Raises DocumentError if it can't be one.
 QByteArray SystemPath(const QString& path);

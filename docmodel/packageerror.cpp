@@ -56,6 +56,13 @@ DocumentError SystemError(const QString& path, const QString& done, int error) {
     return FailedError(path, done, SystemReason(error));
 }
 
+DocumentError FolderError(const QString& path, const QString& done, int error) {
+    const bool isMissing = error == ENOENT || error == ENOTDIR;
+    const QString reason =
+        isMissing ? QStringLiteral("there is no such folder. Check the path") : SystemReason(error);
+    return DocumentError(QStringLiteral("The folder %1 can't be %2: %3.").arg(path, done, reason));
+}
+
 QString ShownName(QByteArrayView name) {
     constexpr qsizetype kLongestShown = 100;
     QString shown = QString::fromUtf8(name.first(qMin(name.size(), kLongestShown)));

@@ -21,6 +21,9 @@ DocumentError FailedError(const QString& path, const QString& done, const QStrin
 // The same with the system's reason for `error`, a value of errno, and what to do about it.
 DocumentError SystemError(const QString& path, const QString& done, int error);
 
+// The same for a folder: "The folder PATH can't be DONE: ..."
+DocumentError FolderError(const QString& path, const QString& done, int error);
+
 // A part's name as an error text shows it, whatever bytes it has.
 QString ShownName(QByteArrayView name);
 

@@ -126,26 +126,39 @@ StoredPath StoredPathFor(const QString& path, const QString& holderFolder) {
     return {given, RelativeTo(holderFolder, CleanPath(given))};
 }
 
-QString ResolvePath(const StoredPath& stored, const QString& holderFolder,
-                    const QString& webFolder) {
+PathChoice PossiblePaths(const StoredPath& stored, const QString& holderFolder) {
     const QString& path = stored.path;
     if (IsUrl(path))
-        return path;
+        return {path, {}};
     const bool onlyRelative = stored.relative.isEmpty() && !IsAbsolute(path);
     const QString& relative = onlyRelative ? path : stored.relative;
-    if (relative.isEmpty())
-        return CleanPath(path);
-    if (!webFolder.isEmpty())
-        return InWebFolder(webFolder, CleanPath(relative));
     // Most documents lie where they lay when the row was written: then both ways are one.
-    if (path.size() == holderFolder.size() + relative.size() && path.startsWith(holderFolder) &&
-        path.endsWith(relative))
-        return CleanPath(path);
+    const bool isOneWay =
+        relative.isEmpty() || (path.size() == holderFolder.size() + relative.size() &&
+                               path.startsWith(holderFolder) && path.endsWith(relative));
+    if (isOneWay)
+        return {CleanPath(path), {}};
     QString beside = CleanPath(holderFolder + WithSlashes(relative));
     QString absolute = onlyRelative ? beside : CleanPath(path);
     if (absolute == beside || absolute.isEmpty())
-        return beside;
-    return !IsThere(absolute) && IsThere(beside) ? beside : absolute;
+        return {beside, {}};
+    return {absolute, beside};
+}
+
+QString ChosenPath(const PathChoice& choice) {
+    const bool isMoved =
+        !choice.beside.isEmpty() && !IsThere(choice.usual) && IsThere(choice.beside);
+    return isMoved ? choice.beside : choice.usual;
+}
+
+QString ResolvePath(const StoredPath& stored, const QString& holderFolder,
+                    const QString& webFolder) {
+    if (webFolder.isEmpty() || IsUrl(stored.path))
+        return ChosenPath(PossiblePaths(stored, holderFolder));
+    const bool onlyRelative = stored.relative.isEmpty() && !IsAbsolute(stored.path);
+    const QString& relative = onlyRelative ? stored.path : stored.relative;
+    return relative.isEmpty() ? CleanPath(stored.path)
+                              : InWebFolder(webFolder, CleanPath(relative));
 }
 
 }  // namespace docmodel

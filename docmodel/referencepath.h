@@ -34,6 +34,18 @@ QString HolderFolder(const QString& path);
 // relative to that folder.
 StoredPath StoredPathFor(const QString& path, const QString& holderFolder);
 
+// The one or two paths that a row of a local document can point at, cleaned. Which one it is, only
+// the disk knows.
+struct PathChoice {
+    QString usual;
+    QString beside;  // beside the holder; empty where there is but one path
+};
+PathChoice PossiblePaths(const StoredPath& stored, const QString& holderFolder);
+
+// Looks at the disk: the usual path if it exists; else the one beside the holder if that exists;
+// else the usual one.
+QString ChosenPath(const PathChoice& choice);
+
 // What a row points at, cleaned: a stored URL as it stands; with a web folder, the relative path in
 // that; else the absolute path if it exists; else the relative one if that exists; else the
 // absolute one.

@@ -15,8 +15,7 @@ namespace docbench {
 namespace {
 
 constexpr int kIconSize = 32;
-constexpr int kIconLeft = 8;
-constexpr int kInset = TwipsToPixels(70) + kIconLeft;
+constexpr int kInset = TwipsToPixels(70);
 constexpr int kBesideLabel = TwipsToPixels(280);
 
 }  // namespace
@@ -84,7 +83,7 @@ void DescControl::Layout() {
     const QSize button(helpbutton->sizeHint().width(), height() / 3);
     helpbutton->setGeometry(width() - button.width() * 3 / 2, (height() - button.height()) / 2,
                             button.width(), button.height());
-    const int left = kInset + kIconSize + TwipsToPixels(70) + kIconLeft;
+    const int left = kInset + kIconSize + kInset;
     const int right = helpbutton->isHidden() ? width() : helpbutton->x();
     labDescription->setGeometry(left, 0, qMax(0, right - left - kBesideLabel), height());
 }

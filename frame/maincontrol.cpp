@@ -19,6 +19,7 @@
 #include "services/scratch.h"
 #include "services/seams.h"
 #include "services/texts.h"
+#include "services/webcopies.h"
 #include "shell/languagefonts.h"
 #include "shell/picturestore.h"
 #include "shell/twips.h"
@@ -64,6 +65,7 @@ Maincontrol::~Maincontrol() {
         gSeams.help->Close();
     ui_->UserControl11->ReleasePanes();  // before the local copies that they may work on go away
     DeleteScratch();
+    gWebCopies.clear();  // their files are gone
     gLogger.reset();
 }
 
@@ -127,11 +129,22 @@ void Maincontrol::RouteCommand(const QString& code) {
         ui_->UserControl11->SetCurrentFunction(code);
 }
 
+// By key, help is about what is on screen.
+void Maincontrol::ShowHelpTopic() {
+    Log([](LoggingManager& log) { log.LogCommand(QStringLiteral("HELP")); });
+    FindHelpFile();
+    ui_->UserControl11->ShowHelpTopic();
+}
+
 void Maincontrol::ShowHelp() {
-    if (!gSeams.help || !gSeams.help->Has(gHelpFile))
-        gHelpFile.replace(QLatin1String("Tessaforma Docbench"), QLatin1String("Tessaforma"));
+    FindHelpFile();
     OpenDocumentExternally(QStringLiteral("Open"), gHelpFile, QStringLiteral("0"),
                            QStringLiteral("0"), 1);
+}
+
+void Maincontrol::FindHelpFile() {
+    if (!gSeams.help || !gSeams.help->Has(gHelpFile))
+        gHelpFile.replace(QLatin1String("Tessaforma Docbench"), QLatin1String("Tessaforma"));
 }
 
 // A button opens the group's popup; the arrow beside it opens a drop-down with the same entries.
@@ -187,8 +200,8 @@ void Maincontrol::MakeShortcuts(const CommandGroup& group) {
         connect(shortcut, &QShortcut::activated, this, [this, popup, action, key = group.key] {
             if (key == kRename)
                 ApplyRenameRule(*popup);
-            if (key == kHelpGroup)  // by key, help is about what is on screen
-                ui_->UserControl11->ShowHelpTopic();
+            if (key == kHelpGroup)
+                ShowHelpTopic();
             else
                 action->trigger();
         });

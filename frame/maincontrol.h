@@ -43,6 +43,8 @@ protected:
 private:
     void RouteCommand(const QString& code);
     void ShowHelp();
+    void ShowHelpTopic();
+    void FindHelpFile();  // takes the shorter name for good when there is none under the name
     void MakeGroup(const CommandGroup& group);
     QMenu* MakeMenu(const CommandGroup& group, const QString& name);
     void MakeShortcuts(const CommandGroup& group);

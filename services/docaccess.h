@@ -185,13 +185,13 @@ public:
     // the files' names, and the list of the folder's subfolders. Component rows count as plain
     // ones, external rows from part to part as mirrored, other external rows as in-context. A
     // document that can't be read is counted and passed over; a folder that can't be read raises.
-    virtual int FindReferences(const ReferenceQuery&) { return 0; }
-    virtual void ClearResults() {}  // the rows and the subfolders
-    virtual int GetResultCount() { return 0; }
-    virtual FoundReference GetResult(int) { return {}; }
-    virtual int GetSubfolderCount() { return 0; }
-    virtual QString GetSubfolder(int) { return {}; }  // a whole path, without a separator at its end
-    virtual SearchCounts GetSearchCounts() { return {}; }   // of all searches of this object
+    virtual int FindReferences(const ReferenceQuery& query) = 0;
+    virtual void ClearResults() = 0;  // frees the rows; the subfolders stay for the walk to go on
+    virtual int GetResultCount() = 0;
+    virtual FoundReference GetResult(int index) = 0;
+    virtual int GetSubfolderCount() = 0;
+    virtual QString GetSubfolder(int index) = 0;  // a whole path, without a separator at its end
+    virtual SearchCounts GetSearchCounts() = 0;   // of all searches of this object
 
     virtual int GetRegistryValueCount() = 0;
     // Name and value of the value at `index`, in the key's order from 0; empty texts beyond the

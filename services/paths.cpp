@@ -60,13 +60,20 @@ bool Matches(QStringView name, QStringView pattern) {
     return std::all_of(pattern.begin() + p, pattern.end(), [](QChar c) { return c == u'*'; });
 }
 
+}  // namespace
+
+bool MatchesPattern(QStringView name, QStringView pattern) {
+    return pattern == QLatin1String("*.*") || Matches(name, pattern);
+}
+
+namespace {
+
 bool AnyMatches(const QString& folder, const QString& pattern) {
-    const bool every = pattern == QLatin1String("*.*");
     QDirIterator entries(folder.isEmpty() ? QStringLiteral(".") : folder,
                          QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     while (entries.hasNext()) {
         entries.next();
-        if (every || Matches(entries.fileName(), pattern))
+        if (MatchesPattern(entries.fileName(), pattern))
             return true;
     }
     return false;

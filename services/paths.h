@@ -33,6 +33,10 @@ DocType DocTypeOf(const QString& path);
 // True where "http" occurs anywhere in any case, in a local path too.
 bool IsWebPath(const QString& path);
 
+// Whether a name fits a pattern, in which "*" stands for any text and "?" for one character; "*.*"
+// is every name.
+bool MatchesPattern(QStringView name, QStringView pattern);
+
 // A file or folder of that name is there. In the name, not in its folder, "*" stands for any text
 // and
 // "?" for one character; "*.*" is every file.

@@ -31,7 +31,8 @@ DocumentFacts Read(const QString& path) {
     facts.reached = ReadStage::Opening;
     try {
         const QString local = LocalCopyOf(path);
-        facts.locked = ReadLockState(path);
+        if (!local.isEmpty())
+            facts.locked = ReadLockState(local);
         facts.exists = !local.isEmpty() && FileExists(local);
         if (facts.exists)
             ReadTables(path, local, facts);

@@ -47,14 +47,14 @@ bool ChangeLock(DocumentInfo& info, bool wantLocked, const QString& path) {
 }  // namespace
 
 std::optional<bool> ReadLockState(const QString& path) {
-    try {
+    std::optional<bool> locked;
+    // Whatever keeps the record from being read, it was not opened: the caller's state stays.
+    ErrorState().Run([&] {
         const auto info = Documents().MakeDocumentInfo();
         if (info->Open(LocalCopyOf(path)))
-            return info->GetLocked();
-    } catch (const std::exception&) {
-        // Whatever keeps the record from being read, it was not opened: the caller's state stays.
-    }
-    return std::nullopt;
+            locked = info->GetLocked();
+    });
+    return locked;
 }
 
 void ReportAccessState(int code, const QString& path) {

@@ -26,7 +26,8 @@ void PictureBox::SetFramed(bool framed) {
 
 void PictureBox::paintEvent(QPaintEvent*) {
     const QRect inside = rect().adjusted(kFrame, kFrame, -kFrame, -kFrame);
-    const QSize pixels = (QSizeF(inside.size()) * devicePixelRatioF()).toSize();
+    const QSize size = picture_.size().scaled(inside.size(), Qt::KeepAspectRatio);
+    const QSize pixels = (QSizeF(size) * devicePixelRatioF()).toSize();
     if (scaled_.size() != pixels && !picture_.isNull() && !pixels.isEmpty()) {
         scaled_ = QPixmap::fromImage(
             picture_.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
@@ -34,7 +35,9 @@ void PictureBox::paintEvent(QPaintEvent*) {
     }
     QPainter painter(this);
     painter.fillRect(rect(), palette().color(framed_ ? QPalette::Highlight : QPalette::Window));
-    painter.drawPixmap(inside, scaled_);
+    QRect place(QPoint(), size);
+    place.moveCenter(inside.center());
+    painter.drawPixmap(place, scaled_);
 }
 
 }  // namespace docbench

@@ -118,9 +118,10 @@ PreviewPane::FileState PreviewPane::StateOf(const QString& local) {
 }
 
 void PreviewPane::ShowPreview(const QString& path) {
-    const QString local = LocalCopyOf(path);
     int result = -1;
     ErrorState errors;
+    QString local;
+    errors.Assign(local, [&] { return LocalCopyOf(path); });
     if (ShowsAlready(path, local))
         result = kExtracted;  // its picture would be the same
     else
@@ -156,9 +157,12 @@ void PreviewPane::ShowViewer(const QString& path, const QString& local) {
         return;
     vistamodel1->setVisible(UseViewer);
     vistamodel1->setToolTip(UseViewer ? path : QString());
-    if (UseViewer)
+    const bool opened =
+        !UseViewer ||
         QMetaObject::invokeMethod(vistamodel1, "OpenDoc", Q_ARG(QString, local), Q_ARG(int, 0),
                                   Q_ARG(int, 0), Q_ARG(int, 1), Q_ARG(QString, QString()));
+    if (!opened)
+        throw DocumentError(QStringLiteral("The viewer can't open documents."));
 }
 
 int PreviewPane::IndexOf(const QString& path) const {

@@ -204,6 +204,8 @@ QString UserControl1::partfilename() {
 
 void UserControl1::StatusBar(QObject* statusBar) {
     statusBarTarget = statusBar;
+    if (Pane* preview = PaneOf(PaneId::Preview))  // the shell's own part: it keeps the line
+        preview->SetStatusBarControl(statusBar);
     PassStatusBar(statusBar);
 }
 
@@ -256,6 +258,8 @@ void UserControl1::AddPane(PaneId id, Pane* pane) {
     pane->setParent(ui_->paneArea);
     ui_->paneLayout->addWidget(pane, 1);
     pane->hide();
+    if (id == PaneId::Preview)
+        pane->SetStatusBarControl(statusBarTarget);
     connect(pane, &Pane::FileUpdated, this, &UserControl1::RefreshTree);
     PassStatusBar(isVisible() ? statusBarTarget.data() : nullptr);
 }

@@ -105,6 +105,21 @@ private Q_SLOTS:
         QCOMPARE(viewer->geometry(),
                  pane.findChild<QWidget*>(QStringLiteral("Image1A_0"))->geometry());
 
+        pane.findChild<QCheckBox*>(QStringLiteral("chkUseFullScreen"))->click();
+        const QString bolt = library.Make(QStringLiteral("bolt.tfmprt"));
+        library.SetPreview(bolt, Picture());
+        pane.ShowPreview(bolt);
+        const auto boxOf = [&](int i) {
+            return pane.findChild<QWidget*>(QStringLiteral("Image1A_%1").arg(i))->geometry();
+        };
+        QCOMPARE(viewer->geometry(), boxOf(1));
+        pane.ShowPreview(pin);  // is in the grid, and is opened again all the same
+        QCOMPARE(viewer->property("opened").toString(), pin + QStringLiteral(" 001"));
+        QCOMPARE(viewer->geometry(), boxOf(0));
+        pane.resize(500, 300);
+        QCoreApplication::processEvents();
+        QCOMPARE(viewer->geometry(), boxOf(0));
+
         UseViewer = false;
         pane.ShowPreview(pin);
         QVERIFY(viewer->isHidden());

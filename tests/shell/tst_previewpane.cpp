@@ -1,10 +1,13 @@
 // The default pane: the grid of pictures, and what comes instead of one.
 
+#include <zlib.h>
+
 #include <QBuffer>
 #include <QCheckBox>
 #include <QImage>
 #include <QPainter>
 #include <QTest>
+#include <QtEndian>
 
 #include "docmodel/package.h"
 #include "services/language.h"
@@ -15,6 +18,7 @@
 #include "shell/previewpane.h"
 #include "shell/viewer.h"
 #include "tests/shell/shellbench.h"
+#include "tests/support/fakewebclient.h"
 #include "tests/support/testdialogs.h"
 #include "tests/support/testenvironment.h"
 #include "tests/support/testlibrary.h"
@@ -92,6 +96,9 @@ private Q_SLOTS:
     void theGridFollowsTheSizeOfThePane();
     void theStripCanBeHidden();
     void theFrameIsSeen();
+    void aPictureIsDrawnInItsProportions();
+    void aWebDocumentIsShownFromItsCopyUnderItsAddress();
+    void afterFullScreenTheNextDocumentComesFirst();
     void fittingKeepsTheProportions();
     void aPictureOrBoxOfNoHeightChangesNothing();
     void tooSmallACellKeepsItsGap();
@@ -261,9 +268,12 @@ void TestPreviewPane::aBrokenOrVanishedDocumentGetsABox_data() {
     QTest::addColumn<QByteArray>("thumbnail");
     QByteArray huge = Picture(Qt::red);
     huge.replace(16, 8, QByteArray::fromHex("0000753000007530"));  // 30,000 by 30,000
+    const quint32 checksum =
+        quint32(crc32(0, reinterpret_cast<const Bytef*>(huge.constData()) + 12, 17));
+    qToBigEndian(checksum, huge.data() + 29);
     QTest::newRow("vanished") << QByteArray();
     QTest::newRow("no picture") << QByteArray("no picture");
-    QTest::newRow("too large, with a wrong checksum") << huge;
+    QTest::newRow("too large") << huge;
     QTest::newRow("cut off") << Picture(Qt::red).left(60);
 }
 
@@ -318,6 +328,60 @@ void TestPreviewPane::theFrameIsSeen() {
     const QColor highlight = bench.pane.palette().color(QPalette::Highlight);
     QVERIFY(bench.Box(0)->grab().toImage().pixelColor(0, 0) != highlight);
     QCOMPARE(bench.Box(1)->grab().toImage().pixelColor(0, 0), highlight);
+}
+
+void TestPreviewPane::aPictureIsDrawnInItsProportions() {
+    Bench bench;
+    // A black square in the middle of a picture four times as wide as high.
+    QImage wide(400, 100, QImage::Format_RGB32);
+    wide.fill(Qt::white);
+    QPainter(&wide).fillRect(175, 25, 50, 50, Qt::black);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    wide.save(&buffer, "PNG");
+    const QString path = bench.library.Make(QStringLiteral("wide.tfmprt"));
+    bench.library.SetPreview(path, bytes);
+    bench.pane.resize(260, 300);
+    bench.pane.ShowPreview(path);
+    QCoreApplication::processEvents();
+    const QImage shown = bench.Box(0)->grab().toImage();
+    int across = 0;
+    int down = 0;
+    for (int x = 0; x < shown.width(); ++x)
+        across += shown.pixelColor(x, shown.height() / 2).lightness() < 60;
+    for (int y = 0; y < shown.height(); ++y)
+        down += shown.pixelColor(shown.width() / 2, y).lightness() < 60;
+    QVERIFY(across > 10);
+    QVERIFY2(qAbs(across - down) <= 1, qPrintable(QStringLiteral("%1 %2").arg(across).arg(down)));
+}
+
+void TestPreviewPane::aWebDocumentIsShownFromItsCopyUnderItsAddress() {
+    Bench bench;
+    FakeWeb web;
+    const QString url = QStringLiteral("http://s/w/pin.tfmprt");
+    QFile file(bench.Part(QStringLiteral("pin.tfmprt"), Qt::green));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    web.server.files[url] = file.readAll();
+    bench.pane.ShowPreview(url);
+    QCOMPARE(bench.Box(0)->toolTip(), url);
+    QCOMPARE(bench.ColorOf(0), QColor(Qt::green));
+    QCOMPARE(bench.status.caption, Format(Text::PreviewOf, url));
+    const QString missing = QStringLiteral("http://s/w/none.tfmprt");
+    bench.dialogs.Expect(Format(Text::PreviewError, missing));
+    bench.pane.ShowPreview(missing);
+    QVERIFY(bench.dialogs.AllCame());
+}
+
+void TestPreviewPane::afterFullScreenTheNextDocumentComesFirst() {
+    Bench bench;
+    bench.CollectPictures();
+    bench.pane.ShowPreview(bench.Part(QStringLiteral("a.tfmprt")));
+    bench.pane.ShowPreview(bench.Part(QStringLiteral("b.tfmprt")));
+    bench.CollectPictures();
+    bench.pane.ShowPreview(bench.Part(QStringLiteral("c.tfmprt"), Qt::blue));
+    QCOMPARE(bench.Box(0)->toolTip(), bench.library.Path(QStringLiteral("c.tfmprt")));
+    QVERIFY(bench.Box(0)->IsFramed());
+    QCOMPARE(bench.ColorOf(0), QColor(Qt::blue));
 }
 
 void TestPreviewPane::fittingKeepsTheProportions() {

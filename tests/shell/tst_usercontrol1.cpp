@@ -1,12 +1,17 @@
 #include <QAction>
+#include <QBuffer>
+#include <QDir>
+#include <QImage>
 #include <QMenu>
 #include <QPushButton>
 
 #include "services/language.h"
+#include "services/loggingmanager.h"
 #include "services/settingsstore.h"
 #include "services/texts.h"
 #include "shell/panesplitter.h"
 #include "tests/shell/shellbench.h"
+#include "tests/support/fakeoutside.h"
 #include "tests/support/testenvironment.h"
 
 using namespace docbench;
@@ -33,6 +38,9 @@ private Q_SLOTS:
     void theDescriptionFollowsTheStoredOption();
     void panesThatAreWorkedInGetTheFocus();
     void panesGetTheStatusLineOnlyWhileVisible();
+    void thePreviewTellsWhoseItIs();
+    void commandsAndOpenedDocumentsAreLogged();
+    void everyPaneHasAHelpPageOfItsOwn();
     void thePanesGetTheStatusLineInOrder();
     void thePanesThatMayRunAreReleasedInOrder();
     void theSavedPropertiesComeBack();
@@ -240,6 +248,80 @@ void TestUserControl1::panesGetTheStatusLineOnlyWhileVisible() {
     QCOMPARE(search->StatusBarControl(), &bench.status);
     search->SetStatusText(QStringLiteral("shown"));
     QCOMPARE(bench.status.caption, QStringLiteral("shown"));
+}
+
+void TestUserControl1::thePreviewTellsWhoseItIs() {
+    Bench bench;
+    bench.shell.SetCurrentFunction(QStringLiteral("PREVIEW"));
+    bench.Open();
+    QCOMPARE(bench.status.caption, Format(Text::PreviewOf, bench.top));
+}
+
+namespace {
+
+// A log that writes its calls into a list.
+class RecordingLog : public OutsideObject {
+public:
+    explicit RecordingLog(QStringList& calls) : calls_(calls) {}
+    bool Call(const QString& method, const QVariantList& arguments) override {
+        QStringList call(method);
+        for (const QVariant& argument : arguments)
+            call.append(argument.toString());
+        calls_.append(call.join(u' '));
+        return true;
+    }
+    bool SetProperty(const QString&, const QVariant&) override { return false; }
+
+private:
+    QStringList& calls_;
+};
+
+}  // namespace
+
+void TestUserControl1::commandsAndOpenedDocumentsAreLogged() {
+    gLogger.reset();
+    FakeOutside outside;
+    QStringList calls;
+    outside.start = [&](const QString&) { return std::make_unique<RecordingLog>(calls); };
+    {
+        Bench bench;
+        bench.shell.SetCurrentFunction(QStringLiteral("NONSENSE"));
+        bench.shell.SetCurrentFunction(QStringLiteral("LOCK"));
+        bench.shell.SetCurrentFunction(QStringLiteral("OPENURL"));
+        QCOMPARE(calls, QStringList({"Start", "LogCommand NONSENSE", "LogCommand LOCK",
+                                     "LogCommand OPENURL"}));
+        calls.clear();
+        bench.dialogs.ExpectOpenFile(bench.top);
+        bench.shell.SetCurrentFunction(QStringLiteral("OPEN"));
+        QCOMPARE(calls, QStringList({"LogCommand OPEN", "LogDocumentOpen " + bench.top}));
+        calls.clear();
+        bench.Type(bench.pin);  // only what is browsed to is an opened document to the log
+        QVERIFY(calls.isEmpty());
+        QImage picture(4, 3, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        picture.save(&buffer, "PNG");
+        bench.library.SetPreview(bench.pin, bytes);
+        bench.shell.SetCurrentFunction(QStringLiteral("PREVIEW"));
+        QCOMPARE(calls, QStringList({"LogCommand PREVIEW",
+                                     "LogPreviewInfo " + bench.pin + " false true false"}));
+    }
+    gLogger.reset();
+    QCOMPARE(calls.last(), QString("Finish"));
+}
+
+void TestUserControl1::everyPaneHasAHelpPageOfItsOwn() {
+    Bench bench;
+    const QDir pages(QCoreApplication::applicationDirPath() + QStringLiteral("/lang/english/help"));
+    QSet<QString> topics;
+    for (const Pane* pane : bench.shell.findChildren<Pane*>()) {
+        const QString topic = pane->HelpTopic();
+        QVERIFY2(pages.exists(topic + QStringLiteral(".html")), pane->metaObject()->className());
+        QVERIFY2(!topics.contains(topic), qPrintable(topic));
+        topics.insert(topic);
+    }
+    QVERIFY(topics.size() >= 2);
 }
 
 void TestUserControl1::thePanesGetTheStatusLineInOrder() {

@@ -37,9 +37,11 @@ class FakeShellExecute : public ShellExecute {
 public:
     FakeShellExecute() { gSeams.shell = this; }
     ~FakeShellExecute() override { gSeams.shell = nullptr; }
-    bool Execute(const QString&, const QString& file, const QString&, const QString&,
-                 int) override {
+    bool Execute(const QString& verb, const QString& file, const QString& parameters,
+                 const QString& folder, int showCommand) override {
         started.append(file);
+        calls.append(
+            QStringList{verb, file, parameters, folder, QString::number(showCommand)}.join(u'|'));
         return true;
     }
     bool StartProgram(const QString& program, const QStringList&) override {
@@ -48,6 +50,7 @@ public:
     }
 
     QStringList started;
+    QStringList calls;  // of Execute, with all that it was given
 };
 
 }  // namespace docbench

@@ -147,6 +147,7 @@ private Q_SLOTS:
     void aFailedExportIsTold();
     void theProgressCountsWhatCouldNotBeRead();
     void findNowRunsOnlyWhenEnabled();
+    void theRealLibraryFindsTheHolders();
 };
 
 void TestWhereUsed::aNewPaneIsIdle() {
@@ -630,6 +631,26 @@ void TestWhereUsed::findNowRunsOnlyWhenEnabled() {
     bench.pane->Findnow();
     QVERIFY(bench.access.folders.queries.isEmpty());
     QVERIFY(bench.Name()->isEnabled());
+}
+
+void TestWhereUsed::theRealLibraryFindsTheHolders() {
+    TestLibrary library;
+    const TestDialogs dialogs;
+    const QString gear = library.Make("parts/gear.tfmprt");
+    const QString top = library.Make("top.tfmasm", {{gear, 2}});
+    library.Make("sub/other.tfmasm", {{library.Path("parts/pin.tfmprt")}});
+    library.Make("sub/derived.tfmprt", {}, {{gear, "mirrored"}});
+    LoadResources();
+    whereUsed pane;
+    pane.SetPartNameToSearch(gear, "gear");
+    pane.findChild<QLineEdit*>("wuLookin")->setText(library.Folder());
+    pane.Findnow();
+    const CellList& list = pane.findChild<CellListView*>("whereList")->List();
+    QCOMPARE(list.Count(), 2);
+    QCOMPARE(list.At(0).tag, top);
+    QCOMPARE(list.At(1).tag, library.Path("sub/derived.tfmprt"));
+    QCOMPARE(list.At(1).cells[1].text, gRelationPart);
+    QCOMPARE(list.At(1).cells[2].tag, gear);
 }
 
 DOCBENCH_TEST_MAIN(QApplication, TestWhereUsed)

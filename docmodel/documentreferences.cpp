@@ -1,0 +1,69 @@
+#include "docmodel/documentreferences.h"
+
+#include "docmodel/documentcontent.h"
+#include "services/paths.h"
+
+namespace docmodel {
+
+using docbench::DocType;
+using docbench::FoundReference;
+
+namespace {
+
+// The kinds of references, as a search's mask adds them up.
+constexpr int kPlain = 1;
+constexpr int kInContext = 2;
+constexpr int kMirrored = 4;
+
+bool IsPart(const QString& path) {
+    return docbench::DocTypeOf(path) == DocType::Part;
+}
+
+}  // namespace
+
+DocumentReferences::DocumentReferences(int folder, const char* file, const QString& path,
+                                       const QString& holderFolder)
+    : path_(path), holderFolder_(holderFolder) {
+    const Package package = Package::OpenAt(folder, file, path);
+    if (const std::optional<DocumentPart> tables = ReadTables(package)) {
+        components_ = tables->Components();
+        externals_ = tables->Externals();
+    }
+}
+
+// Whether a row leads to the target is mostly told by its text alone; the disk is asked only when
+// one of its paths would.
+template <typename Row, typename IsWanted>
+void DocumentReferences::FindIn(const QList<Row>& table, bool inContext,
+                                const ReferenceTarget& target, IsWanted isWanted,
+                                QList<FoundReference>& to) const {
+    QByteArray stamp;
+    for (int index = 0; index < table.size(); ++index) {
+        const PathChoice choice = PossiblePaths(table[index].target, holderFolder_);
+        if (!target.Matches(choice.usual) &&
+            (choice.beside.isEmpty() || !target.Matches(choice.beside)))
+            continue;
+        const QString reference = ChosenPath(choice);
+        if (!target.Matches(reference) || !isWanted(reference))
+            continue;
+        if (stamp.isEmpty())
+            stamp = StampOf(table);
+        to.append({index, inContext, reference, path_, stamp});
+    }
+}
+
+void DocumentReferences::Find(const ReferenceTarget& target, int mask,
+                              QList<FoundReference>& to) const {
+    if (mask & kPlain)
+        FindIn(
+            components_, false, target, [](const QString&) { return true; }, to);
+    if (!(mask & (kInContext | kMirrored)))
+        return;
+    const bool isPart = IsPart(path_);
+    const auto isWanted = [&](const QString& reference) {
+        return (mask & (isPart && IsPart(reference) ? kMirrored : kInContext)) != 0;
+    };
+    FindIn(externals_, true, target, isWanted, to);
+}
+
+}  // namespace docmodel

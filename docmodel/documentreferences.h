@@ -1,0 +1,37 @@
+// The reference rows of one document, read for a search: its tables and nothing else.
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <vector>
+
+#include "docmodel/documentpart.h"
+#include "docmodel/referencetarget.h"
+#include "services/docaccess.h"
+
+namespace docmodel {
+
+class DocumentReferences {
+public:
+    // `path` is the document's; `folder` and `file` where it stands: an open folder and its name in
+    // there. `holderFolder` is as HolderFolder(path) gives it. Raises DocumentError when the
+    // document can't be read.
+    DocumentReferences(int folder, const char* file, const QString& path,
+                       const QString& holderFolder);
+
+    // Appends the rows that lead to the target and are of a kind in `mask`.
+    void Find(const ReferenceTarget& target, int mask, QList<docbench::FoundReference>& to) const;
+
+private:
+    template <typename Row, typename IsWanted>
+    void FindIn(const QList<Row>& table, bool inContext, const ReferenceTarget& target,
+                IsWanted isWanted, QList<docbench::FoundReference>& to) const;
+
+    QString path_;
+    QString holderFolder_;
+    QList<StoredComponent> components_;
+    QList<StoredExternal> externals_;
+};
+
+}  // namespace docmodel
