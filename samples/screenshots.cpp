@@ -3,7 +3,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QDir>
+#include <QDirIterator>
 #include <QTextStream>
 #include <functional>
 
@@ -16,6 +16,7 @@
 #include "services/seams.h"
 #include "shell/previewpane.h"
 #include "shell/usercontrol1.h"
+#include "whereused/whereused.h"
 
 namespace {
 
@@ -32,8 +33,10 @@ struct Stage {
     }
     QStringList Documents(int most) const {
         QStringList paths;
-        for (const QString& name : library.entryList({"*.tfm*"}, QDir::Files, QDir::Name))
-            paths.append(library.filePath(name));
+        QDirIterator files(library.path(), {"*.tfm*"}, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext())
+            paths.append(files.next());
+        paths.sort();
         return paths.mid(0, most);
     }
 };
@@ -51,6 +54,14 @@ Scene Previews(int count) {
             pane->ShowPreview(path);
         return &stage.frame;
     };
+}
+
+QWidget* WhereUsedOfAScrew(Stage& stage) {
+    stage.frame.SetCurrentFunction(QStringLiteral("WHERE"));
+    auto* pane = stage.Find<whereUsed>("whereUsed");
+    pane->SetPartNameToSearch(stage.library.filePath(QStringLiteral("hex screw M6.tfmprt")), {});
+    pane->Findnow();
+    return &stage.frame;
 }
 
 QWidget* About(Stage& stage) {
@@ -75,6 +86,7 @@ const std::vector<std::pair<QString, Scene>>& Scenes() {
         {QStringLiteral("preview-25"), Previews(25)},
         {QStringLiteral("about"), About},
         {QStringLiteral("help"), Help},
+        {QStringLiteral("where-used"), WhereUsedOfAScrew},
     };
     return scenes;
 }

@@ -1,3 +1,4 @@
+#include <QDir>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -5,6 +6,7 @@
 #include <QProcess>
 #include <QTest>
 
+#include "tests/support/apacheserver.h"
 #include "tests/support/testdialogs.h"
 #include "tests/support/testenvironment.h"
 #include "tests/support/testlibrary.h"
@@ -17,6 +19,8 @@ class TestApp : public QObject {
 private Q_SLOTS:
     void treePrintsEveryRowWithItsPath();
     void treePrintsJson();
+    void aWebFolderPrintsTheSameTreeAsTheDisk();
+    void aServerThatIsNotThereIsToldInWords();
     void treeNeedsNoDisplay();
     void aRelativePathIsTakenFromTheWorkingFolder();
     void aMissingDocumentEndsWithThree();
@@ -100,6 +104,27 @@ void TestApp::treePrintsJson() {
              library.Path(QStringLiteral("bo\"lt.tfmprt")));
     QVERIFY(children[2][QLatin1String("missing")].toBool());
     QVERIFY(!children[2][QLatin1String("circular")].toBool());
+}
+
+void TestApp::aWebFolderPrintsTheSameTreeAsTheDisk() {
+    const ApacheServer server;
+    TestLibrary library;
+    SmallAssembly(library);
+    for (const QString& name : QDir(library.Folder()).entryList(QDir::Files))
+        QVERIFY(QFile::copy(library.Path(name), server.Path(name)));
+    const Run disk({QStringLiteral("tree"), library.Path(QStringLiteral("top.tfmasm"))});
+    const Run web({QStringLiteral("tree"), server.Url(QStringLiteral("top.tfmasm"))});
+    QCOMPARE(web.code, disk.code);
+    QString expected = disk.out;
+    expected.replace(library.Folder() + u'/', server.Url());
+    QCOMPARE(web.out, expected);
+    QVERIFY(web.out.contains(server.Url(QStringLiteral("pin.tfmprt"))));
+}
+
+void TestApp::aServerThatIsNotThereIsToldInWords() {
+    const Run run({QStringLiteral("tree"), QStringLiteral("http://127.0.0.1:1/top.tfmasm")});
+    QCOMPARE(run.code, 3);
+    QVERIFY(run.err.count(QLatin1String("127.0.0.1:1")) > 1);  // not found, and why
 }
 
 void TestApp::treeNeedsNoDisplay() {
