@@ -9,7 +9,7 @@ class ConsoleDialogs : public Dialogs {
 public:
     Answer Box(const QString& text, Icon icon, const QString& title, Buttons buttons,
                const QString& detail) override;
-    QString OpenFile(const QString&, const QString&) override { return {}; }
+    QString OpenFile(const QString&, const QString&, const QString&) override { return {}; }
     QString BrowseFolder(const QString&, const QString&) override { return {}; }
     // From the environment: DOCBENCH_WEB_USER and DOCBENCH_WEB_PASSWORD. None without them, or when
     // they were refused.

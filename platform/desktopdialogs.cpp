@@ -102,11 +102,14 @@ Dialogs::Answer DesktopDialogs::Box(const QString& text, Icon icon, const QStrin
     return AnswerOf(box.exec());
 }
 
-QString DesktopDialogs::OpenFile(const QString& title, const QString& filter) {
+QString DesktopDialogs::OpenFile(const QString& title, const QString& filter,
+                                 const QString& start) {
     const NormalCursor normal;
     QFileDialog dialog(Owner(), title);
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setNameFilters(NameFiltersOf(filter));
+    if (!start.isEmpty())
+        dialog.selectFile(start);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 

@@ -35,8 +35,10 @@ public:
     virtual Answer Box(const QString& text, Icon icon, const QString& title,
                        Buttons buttons = Buttons::Ok, const QString& detail = {}) = 0;
 
-    // `filter` is in the form "Label|*.a;*.b|Label|*.c". Empty on cancel.
-    virtual QString OpenFile(const QString& title, const QString& filter) = 0;
+    // `filter` is in the form "Label|*.a;*.b|Label|*.c". `start` is the file that is offered first,
+    // if any. Empty on cancel.
+    virtual QString OpenFile(const QString& title, const QString& filter,
+                             const QString& start = {}) = 0;
     virtual QString BrowseFolder(const QString& title,
                                  const QString& start) = 0;  // empty on cancel
 

@@ -16,7 +16,7 @@ public:
         qWarning().noquote() << text << detail;
         return AnswerOfClosing(buttons);
     }
-    QString OpenFile(const QString&, const QString&) override { return {}; }
+    QString OpenFile(const QString&, const QString&, const QString&) override { return {}; }
     QString BrowseFolder(const QString&, const QString&) override { return {}; }
     std::optional<Password> AskPassword(const QString&, const QString&, bool) override {
         return std::nullopt;

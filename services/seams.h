@@ -5,6 +5,7 @@ namespace docbench {
 
 class Dialogs;
 class DocumentAccess;
+class FileSystem;
 class HelpViewer;
 class KeyRing;
 class OutsideObjects;
@@ -16,6 +17,7 @@ class Spreadsheet;
 struct Seams {
     Dialogs* dialogs = nullptr;           // until they are set, messages go to the log
     DocumentAccess* documents = nullptr;  // null when the document library could not be loaded
+    FileSystem* files = nullptr;          // null: the disk itself
     HelpViewer* help = nullptr;
     KeyRing* keyring = nullptr;  // null: passwords are kept in memory alone
     OutsideObjects* outside = nullptr;

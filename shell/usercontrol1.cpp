@@ -3,6 +3,7 @@
 #include <QMenu>
 
 #include "cells/celltree.h"
+#include "rename/renameref.h"
 #include "services/dialogs.h"
 #include "services/docaccess.h"
 #include "services/helpviewer.h"
@@ -65,6 +66,7 @@ UserControl1::UserControl1(QWidget* parent)
     PrepareScratch();
     AddPane(PaneId::Preview, new PreviewPane);
     AddPane(PaneId::WhereUsed, new whereUsed);
+    AddPane(PaneId::Rename, new renameRef);
 }
 
 UserControl1::~UserControl1() {

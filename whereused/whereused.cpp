@@ -10,6 +10,7 @@
 #include "panes/folderwalk.h"
 #include "panes/listmenu.h"
 #include "panes/pathcolumn.h"
+#include "panes/searchprogress.h"
 #include "panes/usekindboxes.h"
 #include "services/dialogs.h"
 #include "services/documentlibrary.h"
@@ -315,16 +316,11 @@ bool whereUsed::RowExists(const QString& document, const QString& relation,
     return listed_.contains(RowKey(document, relation, reference));
 }
 
-// Drawn at once: events run only where the walk yields.
 void whereUsed::ShowProgress(const SearchCounts& counts) {
-    const int unread = counted_.unread + counts.unread;
-    QStringList parts{
-        Format(Text::DocumentsLookedAt, QString::number(counted_.documents + counts.documents)),
-        Format(Text::HoldersFound, QString::number(ui_->whereList->List().Count()))};
-    if (unread > 0)
-        parts.append(Format(Text::FilesNotRead, QString::number(unread)));
-    ui_->wuProgress->setText(parts.join(QStringLiteral("   ")));
-    ui_->wuProgress->repaint();
+    ShowSearchProgress(*ui_->wuProgress,
+                       {.documents = counted_.documents + counts.documents,
+                        .unread = counted_.unread + counts.unread},
+                       ui_->whereList->List().Count());
 }
 
 void whereUsed::ToggleColumn(int column) {

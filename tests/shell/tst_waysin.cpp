@@ -76,6 +76,7 @@ void TestWaysIn::aPaneThatWorksOnOneDocumentIsLeftWhenAnotherIsOpened_data() {
 void TestWaysIn::aPaneThatWorksOnOneDocumentIsLeftWhenAnotherIsOpened() {
     QFETCH(QString, code);
     Bench bench;
+    bench.Add(PaneId::Rename);
     bench.Open();
     bench.shell.SetCurrentFunction(code);
     bench.Type(bench.left);

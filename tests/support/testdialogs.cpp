@@ -48,8 +48,10 @@ Dialogs::Answer TestDialogs::Box(const QString& text, Icon icon, const QString& 
     return expected.answer;
 }
 
-QString TestDialogs::OpenFile(const QString& title, const QString&) {
+QString TestDialogs::OpenFile(const QString& title, const QString& filter, const QString& start) {
     lastTitle_ = title;
+    lastFilter_ = filter;
+    lastStart_ = start;
     return Take(Kind::OpenFile, title).text;
 }
 

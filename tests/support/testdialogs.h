@@ -24,11 +24,13 @@ public:
     bool AllCame() const { return expected_.isEmpty(); }
     const QString& LastTitle() const { return lastTitle_; }    // of the last dialog of any kind
     const QString& LastDetail() const { return lastDetail_; }  // of the last box
+    const QString& LastFilter() const { return lastFilter_; }  // of the last file dialog
+    const QString& LastStart() const { return lastStart_; }
     Buttons LastButtons() const { return lastButtons_; }
 
     Answer Box(const QString& text, Icon icon, const QString& title, Buttons buttons,
                const QString& detail) override;
-    QString OpenFile(const QString& title, const QString& filter) override;
+    QString OpenFile(const QString& title, const QString& filter, const QString& start) override;
     QString BrowseFolder(const QString& title, const QString& start) override;
     std::optional<Password> AskPassword(const QString& server, const QString& realm,
                                         bool refused) override;
@@ -47,6 +49,8 @@ private:
     QList<std::optional<Password>> passwords_;
     QString lastTitle_;
     QString lastDetail_;
+    QString lastFilter_;
+    QString lastStart_;
     Buttons lastButtons_ = Buttons::Ok;
     Dialogs* former_;
 };

@@ -1,0 +1,29 @@
+// Looks for the references to a document that a renaming or replacement has to rewrite.
+#pragma once
+
+#include <QString>
+#include <functional>
+
+#include "panes/usekinds.h"
+#include "services/docaccess.h"
+
+namespace docbench {
+
+class CellList;
+
+struct RenameSearch {
+    QString document;  // path or address
+    QString parent;    // whose row must stay ticked; may be empty
+    UseKinds kinds;
+    bool subfolders = true;
+    std::function<void(const QString& text)> status;
+    std::function<void()> yield;      // once for each folder
+    std::function<bool()> cancelled;  // asked after each yield
+    std::function<void(const SearchCounts& counts)> progress;
+};
+
+// Adds a row to `list` for each reference found in the folders (";" between them, named lists
+// expanded). False when there is nothing to look in. Raises what a folder's search raises.
+bool SearchHolders(const RenameSearch& search, const QString& folders, CellList& list);
+
+}  // namespace docbench

@@ -1,0 +1,195 @@
+#include "rename/renametransaction.h"
+
+#include <QHash>
+
+#include "cells/celllist.h"
+#include "rename/renamelist.h"
+#include "services/dialogs.h"
+#include "services/docaccess.h"
+#include "services/documentlibrary.h"
+#include "services/errorstate.h"
+#include "services/filesystem.h"
+#include "services/language.h"
+#include "services/paths.h"
+#include "services/seams.h"
+#include "services/texts.h"
+#include "services/webcopies.h"
+
+namespace docbench {
+namespace {
+
+Table TableOf(bool external) {
+    return external ? Table::ExternalReferences : Table::Components;
+}
+
+class Transaction {
+public:
+    Transaction(CellList& rows, const RenamePlan& plan, const RenameProgress& progress)
+        : rows_(rows), plan_(plan), progress_(progress), document_(Documents().MakeDocumentFile()) {
+        for (int row = 0; row < rows_.Count(); ++row)
+            rowsOf_[rows_.At(row).cells[kHolderColumn].tag].append(row);
+    }
+
+    RenameResult Run() {
+        if (!plan_.replaces && !Move())
+            return {.moved = false};
+        if (!plan_.parent.isEmpty())
+            UpdateParent();
+        const int all = CountTicked();
+        int done = 0;
+        for (int row = 0; row < rows_.Count(); ++row) {
+            if (!rows_.At(row).ticked)
+                continue;
+            UpdateRow(row);
+            progress_.holders(++done, all);
+        }
+        return result_;
+    }
+
+private:
+    bool Move() {
+        ErrorState errors;
+        bool moved = true;
+        if (IsWebPath(plan_.oldPath)) {
+            if (gWebFolder)
+                gWebFolder->MoveResource(plan_.oldPath, plan_.newPath, 1);
+            moved = RenameWebCopy(plan_.oldPath, plan_.newPath);
+        } else {
+            moved = errors.Run([&] { Files().Move(plan_.oldPath, plan_.newPath); });
+        }
+        if (!moved)
+            gSeams.dialogs->Box(Format(Text::NotRenamed, plan_.newPath), Dialogs::Icon::Exclamation,
+                                gAppTitle, Dialogs::Buttons::Ok, errors.Description());
+        return moved;
+    }
+
+    int CountTicked() const {
+        int count = 0;
+        for (const CellRow& row : rows_.Rows())
+            count += row.ticked ? 1 : 0;
+        return count;
+    }
+
+    // The parent's first reference to the document, found by its name. A failure is not told: the
+    // row of the same parent, if there is one, tells its own.
+    void UpdateParent() {
+        progress_.status(Format(Text::UpdatingDocument, plan_.parent));
+        const QString webFolder = IsWebPath(plan_.parent) ? UrlFolder(plan_.parent) : QString();
+        ErrorState errors;
+        errors.Run([&] {
+            document_->Open(LocalCopyOf(plan_.parent));
+            std::optional<Table> table;
+            if (SetFirstComponent(webFolder))
+                table = Table::Components;
+            else if (SetFirstExternal(webFolder))
+                table = Table::ExternalReferences;
+            if (!table)
+                return;
+            ++result_.updated;
+            const QByteArray before = document_->GetStamp(*table);
+            document_->Save();
+            RenewStamps(plan_.parent, *table, before);
+            UploadIfWeb(plan_.parent);
+        });
+    }
+
+    bool IsOldName(const QString& name) const {
+        return name.toUpper() == BaseNameOf(plan_.oldPath).toUpper();
+    }
+
+    bool SetFirstComponent(const QString& webFolder) {
+        for (int i = 0; i < document_->GetComponentCount(); ++i) {
+            if (!IsOldName(document_->GetComponent(i, webFolder).name))
+                continue;
+            document_->SetComponentPath(i, plan_.newPath);
+            return true;
+        }
+        return false;
+    }
+
+    bool SetFirstExternal(const QString& webFolder) {
+        for (int i = 0; i < document_->GetExternalReferenceCount(); ++i) {
+            if (!IsOldName(document_->GetExternalReference(i, webFolder).name))
+                continue;
+            document_->SetExternalReferencePath(i, plan_.newPath);
+            return true;
+        }
+        return false;
+    }
+
+    void UpdateRow(int index) {
+        const RenameRow row = ReadRow(rows_.At(index));
+        progress_.status(Format(Text::UpdatingDocument, row.holder));
+        ErrorState errors;
+        // After a failed statement the object is bound to nothing, and those behind it would fail
+        // as well: the first failure is the one to tell.
+        errors.Run([&] {
+            document_->Open(LocalCopyOf(row.holder));
+            CheckStamp(row);
+            Write(row);
+        });
+        ShowOutcome(index, errors);
+    }
+
+    void CheckStamp(const RenameRow& row) {
+        if (!row.stamp.isEmpty() && document_->GetStamp(TableOf(row.external)) != row.stamp)
+            throw DocumentError(QStringLiteral("The references of %1 were changed since they were "
+                                               "looked for. Look for them again.")
+                                    .arg(row.holder));
+    }
+
+    void Write(const RenameRow& row) {
+        if (row.external)
+            document_->SetExternalReferencePath(row.index, plan_.newPath);
+        else
+            document_->SetComponentPath(row.index, plan_.newPath);
+        document_->Save();
+        RenewStamps(row.holder, TableOf(row.external), row.stamp);
+        UploadIfWeb(row.holder);
+    }
+
+    void ShowOutcome(int index, const ErrorState& errors) {
+        if (!errors.Failed()) {
+            ++result_.updated;
+            rows_.Change(index, [](CellRow& row) {
+                row.cells[kHolderColumn].foreColor = kColorBlue;
+                row.cells[kTickColumn].toolTip = Tr(Text::RowUpdatedTip);
+            });
+            return;
+        }
+        ++result_.failed;
+        const QString holder = rows_.At(index).cells[kHolderColumn].text;
+        gSeams.dialogs->Box(Format(Text::RowFailed, holder), Dialogs::Icon::Exclamation, gAppTitle,
+                            Dialogs::Buttons::Ok, errors.Description());
+        rows_.Change(index, [&](CellRow& row) {
+            row.cells[kHolderColumn].foreColor = kColorRed;
+            row.cells[kHolderColumn].toolTip = Format(Text::RowFailedTip, errors.Description());
+        });
+    }
+
+    // The holder's other rows go on being good for writing: the change was our own.
+    void RenewStamps(const QString& holder, Table table, const QByteArray& before) {
+        const QString former = QString::fromLatin1(before.toHex());
+        const QString renewed = QString::fromLatin1(document_->GetStamp(table).toHex());
+        for (const int index : rowsOf_.value(holder)) {
+            const CellRow& row = rows_.At(index);
+            if (TableOf(ReadRow(row).external) == table && row.cells[kTableColumn].tag == former)
+                rows_.Change(index, [&](CellRow& own) { own.cells[kTableColumn].tag = renewed; });
+        }
+    }
+
+    CellList& rows_;
+    const RenamePlan& plan_;
+    const RenameProgress& progress_;
+    std::unique_ptr<DocumentFile> document_;
+    QHash<QString, QList<int>> rowsOf_;  // by holder
+    RenameResult result_;
+};
+
+}  // namespace
+
+RenameResult RunRename(CellList& rows, const RenamePlan& plan, const RenameProgress& progress) {
+    return Transaction(rows, plan, progress).Run();
+}
+
+}  // namespace docbench

@@ -1,0 +1,497 @@
+// The rename and replace pane, through its widgets.
+
+#include <QAction>
+#include <QCheckBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <memory>
+
+#include "panes/celllistview.h"
+#include "rename/renamelist.h"
+#include "rename/renameref.h"
+#include "services/language.h"
+#include "services/seams.h"
+#include "services/spreadsheet.h"
+#include "services/texts.h"
+#include "tests/shell/shellbench.h"
+#include "tests/support/filelockholder.h"
+#include "tests/support/testdialogs.h"
+#include "tests/support/testenvironment.h"
+#include "tests/support/testlibrary.h"
+
+using namespace docbench;
+
+namespace {
+
+class FakeSpreadsheet : public Spreadsheet {
+public:
+    FakeSpreadsheet() { gSeams.spreadsheet = this; }
+    ~FakeSpreadsheet() override { gSeams.spreadsheet = nullptr; }
+    QString Show(const TextTable& table) override {
+        shown = table;
+        return "/docs/list.xlsx";
+    }
+    TextTable shown;
+};
+
+// The pane on screen for a part of a small project: top -> left -> pin, right -> pin.
+struct Bench {
+    Bench() {
+        LoadResources();
+        pin = library.Make("pin.tfmprt");
+        left = library.Make("left.tfmasm", {{pin}});
+        right = library.Make("right.tfmasm", {{pin, 2}});
+        top = library.Make("top.tfmasm", {{left}, {right}});
+        pane = std::make_unique<renameRef>();
+        pane->SetStatusBarControl(&status);
+        pane->resize(700, 520);
+        pane->show();
+        if (!QTest::qWaitForWindowActive(pane.get()))
+            qFatal("no active window");
+    }
+    void Load(bool replaces = false) {
+        pane->SetPartName("pin", pin, QStringList({pin, left, top}).join(';'), replaces);
+    }
+    template <typename T = QWidget>
+    T* Child(const char* name) {
+        T* child = pane->findChild<T*>(QLatin1String(name));
+        if (!child)
+            qFatal("no %s", name);
+        return child;
+    }
+    QLineEdit* NewName() { return Child<QLineEdit>("newname"); }
+    QPushButton* Button(const char* name) { return Child<QPushButton>(name); }
+    CellListView* List() { return Child<CellListView>("lv"); }
+    const CellRow& Row(int row) { return List()->List().At(row); }
+    void Find() { QTest::mouseClick(Button("Findnow"), Qt::LeftButton); }
+    void Apply() { QTest::mouseClick(Button("apply"), Qt::LeftButton); }
+    void Type(const QString& name) { NewName()->setText(name); }
+    QString PathIn(const QString& holder) {
+        const auto file = gSeams.documents->MakeDocumentFile();
+        file->Open(holder);
+        return file->GetComponent(0, QString()).path;
+    }
+    void ClickTick(int row) {
+        CellList& list = List()->List();
+        const auto state = list.At(row).ticked ? Qt::Unchecked : Qt::Checked;
+        list.setData(list.index(row, 0), state, Qt::CheckStateRole);
+    }
+
+    TestLibrary library;
+    TestDialogs dialogs;
+    FakeStatusLine status;
+    QString pin, left, right, top;
+    std::unique_ptr<renameRef> pane;
+};
+
+void SetReadOnly(const QString& path, bool readOnly) {
+    const QFile::Permissions write = QFile::WriteOwner | QFile::WriteUser;
+    const QFile::Permissions read = QFile::ReadOwner | QFile::ReadUser;
+    QVERIFY(QFile::setPermissions(path, readOnly ? read : read | write));
+}
+
+}  // namespace
+
+class TestRenameRef : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void anEmptyNameBlanksThePane() {
+        Bench bench;
+        bench.pane->SetPartName("", "", "", false);
+        for (const char* name : {"apply", "reset", "browse", "Findnow", "searchrule"})
+            QVERIFY2(!bench.Button(name)->isEnabled(), name);
+        QCOMPARE(bench.NewName()->text(), QString());
+    }
+
+    void aDocumentFillsTheForm() {
+        Bench bench;
+        bench.Load();
+        QCOMPARE(bench.Child<QLineEdit>("oldname")->text(), bench.pin);
+        QCOMPARE(bench.NewName()->text(), QString("pin.tfmprt"));
+        QCOMPARE(bench.NewName()->selectedText(), QString("pin.tfmprt"));
+        QCOMPARE(bench.Child<QLabel>("Re")->text(), gStrings[207] + " :");
+        QCOMPARE(bench.Child<QLabel>("Label1")->text(), gStrings[14] + " :");
+        QVERIFY(bench.Button("apply")->isEnabled() && !bench.Button("reset")->isEnabled());
+        QVERIFY(bench.Button("browse")->isHidden());
+        QVERIFY(bench.Child<QCheckBox>("whereused")->isChecked());
+        bench.Child<QCheckBox>("whereused")->click();
+        QVERIFY(bench.Child("Frame2")->isHidden());
+    }
+
+    void aDocumentInUseIsRefused() {
+        Bench bench;
+        const FileLockHolder holder(bench.pin);
+        bench.dialogs.Expect(Format(Text::AccessInUse, bench.pin));
+        bench.Load();
+        QVERIFY(bench.dialogs.AllCame());
+        QVERIFY(!bench.Button("apply")->isEnabled());
+        QVERIFY(bench.Child<QCheckBox>("whereused")->isHidden());
+    }
+
+    void aReadOnlyParentIsRefused() {
+        Bench bench;
+        SetReadOnly(bench.left, true);
+        bench.dialogs.Expect(Format(Text::AccessReadOnly, bench.left));
+        bench.Load();
+        QVERIFY(!bench.Button("Findnow")->isEnabled());
+        SetReadOnly(bench.left, false);
+    }
+
+    void anEmptyNewNameDisablesApply() {
+        Bench bench;
+        bench.Load();
+        bench.Type("");
+        QVERIFY(!bench.Button("apply")->isEnabled());
+        bench.Type("x");
+        QVERIFY(bench.Button("apply")->isEnabled());
+        QTest::keyClick(bench.NewName(), Qt::Key_Escape);
+        QCOMPARE(bench.NewName()->text(), QString());
+        QVERIFY(!bench.Button("apply")->isEnabled());
+    }
+
+    void leavingTheNameAddsTheExtension() {
+        Bench bench;
+        bench.Load();
+        bench.NewName()->setFocus();
+        bench.Type("bolt");
+        bench.Button("apply")->setFocus();
+        QCOMPARE(bench.NewName()->text(), QString("bolt.tfmprt"));
+    }
+
+    void enterChecksTheNameAndStartsNothing() {
+        Bench bench;
+        bench.Load();
+        bench.Type("bolt");
+        QTest::keyClick(bench.NewName(), Qt::Key_Return);
+        QCOMPARE(bench.NewName()->text(), QString("bolt.tfmprt"));
+        QVERIFY(bench.Button("apply")->isEnabled());
+        QVERIFY(QFile::exists(bench.pin));
+    }
+
+    void wrongNamesAreRefused_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("text");
+        QTest::newRow("its own") << "pin.tfmprt" << 211;
+        QTest::newRow("an ancestor's, whatever its case") << "TOP.TFMASM" << 211;
+        QTest::newRow("another type") << "bolt.tfmasm" << 216;
+        QTest::newRow("taken") << "taken.tfmprt" << 219;
+        QTest::newRow("with a folder") << "sub/bolt.tfmprt" << 220;
+    }
+    void wrongNamesAreRefused() {
+        QFETCH(QString, name);
+        QFETCH(int, text);
+        Bench bench;
+        bench.library.Make("taken.tfmprt");
+        bench.Load();
+        bench.Type(name);
+        bench.dialogs.Expect(gStrings[text].section("%s", 0, 0) + '*');
+        QTest::keyClick(bench.NewName(), Qt::Key_Return);
+        QVERIFY(bench.dialogs.AllCame());
+        QVERIFY(!bench.Button("apply")->isEnabled());
+        QCOMPARE(bench.NewName()->selectedText(), bench.NewName()->text());
+    }
+
+    void aDroppedPathIsCheckedWholeAndRefusedAtApply() {
+        Bench bench;
+        bench.Load();
+        const QString path = bench.library.Path("bolt.tfmprt");
+        DropFiles(bench.NewName(), {path});
+        QCOMPARE(bench.NewName()->text(), path);
+        QVERIFY(bench.Button("apply")->isEnabled());
+        bench.dialogs.Expect(gStrings[360], Dialogs::Icon::Exclamation, Dialogs::Answer::No);
+        bench.dialogs.Expect(gStrings[220]);
+        bench.Apply();
+        QVERIFY(bench.dialogs.AllCame());
+        QVERIFY(QFile::exists(bench.pin));
+    }
+
+    void theSearchListsTheHolders() {
+        Bench bench;
+        bench.Load();
+        bench.Find();
+        QCOMPARE(bench.List()->List().Count(), 2);
+        QCOMPARE(bench.Row(0).cells[kHolderColumn].tag, bench.left);
+        QCOMPARE(bench.Row(0).cells[kHolderColumn].text, QString("left.tfmasm"));
+        QCOMPARE(bench.Row(0).cells[kRelationColumn].tag, QString("M"));
+        QCOMPARE(bench.Row(1).cells[kRelationColumn].tag, QString());
+        QCOMPARE(bench.Row(1).cells[kRelationColumn].text, gRelationDefault);
+        QCOMPARE(bench.Row(1).cells[kIndexColumn].text, QString("0"));
+        QCOMPARE(bench.Row(1).cells[kTableColumn].text, QString("0"));
+        QVERIFY(bench.Row(0).ticked && bench.Row(1).ticked);
+        QCOMPARE(bench.status.caption, Format(Text::HoldersFound, "2"));
+        QCOMPARE(bench.Button("Findnow")->text(), gStrings[17]);
+    }
+
+    void theParentsTickStays() {
+        Bench bench;
+        bench.Load();
+        bench.Find();
+        bench.dialogs.Expect(gStrings[361]);
+        bench.ClickTick(0);
+        QVERIFY(bench.dialogs.AllCame());
+        QVERIFY(bench.Row(0).ticked);
+        bench.ClickTick(1);
+        QVERIFY(!bench.Row(1).ticked);
+    }
+
+    void aReadOnlyHolderCanBeTickedOnceItIsWritable() {
+        Bench bench;
+        SetReadOnly(bench.right, true);
+        bench.Load();
+        bench.Find();
+        QVERIFY(!bench.Row(1).ticked);
+        QCOMPARE(bench.Row(1).cells[kHolderColumn].foreColor, kColorRed);
+        QCOMPARE(bench.Row(1).cells[kHolderColumn].text, gStrings[78] + "right.tfmasm");
+        QCOMPARE(bench.Row(1).cells[kRelationColumn].tag, QString("R"));
+        bench.dialogs.Expect(gStrings[361]);
+        bench.ClickTick(1);
+        QVERIFY(!bench.Row(1).ticked);
+        SetReadOnly(bench.right, false);
+        bench.ClickTick(1);
+        QVERIFY(bench.Row(1).ticked);
+        QCOMPARE(bench.Row(1).cells[kHolderColumn].foreColor, kColorNormal);
+        QCOMPARE(bench.Row(1).cells[kHolderColumn].text, QString("right.tfmasm"));
+    }
+
+    void theHeaderTogglesAndKeepsTheMark() {
+        Bench bench;
+        SetReadOnly(bench.right, true);
+        bench.Load();
+        bench.Find();
+        Q_EMIT bench.List()->header()->sectionClicked(kHolderColumn);
+        QCOMPARE(bench.Row(0).cells[kHolderColumn].text, bench.left);
+        QCOMPARE(bench.Row(1).cells[kHolderColumn].text, gStrings[78] + bench.right);
+        QCOMPARE(bench.List()->List().Headers()[kHolderColumn].text, gStrings[208]);
+        Q_EMIT bench.List()->header()->sectionClicked(kRelationColumn);
+        QCOMPARE(bench.Row(0).cells[kHolderColumn].text, bench.left);
+        SetReadOnly(bench.right, false);
+    }
+
+    void applyRenamesAndUpdatesEveryHolder() {
+        Bench bench;
+        bench.Load();
+        bench.Find();
+        bench.Type("bolt");
+        QSignalSpy updated(bench.pane.get(), &Pane::FileUpdated);
+        bench.Apply();
+        const QString bolt = bench.library.Path("bolt.tfmprt");
+        QVERIFY(QFile::exists(bolt) && !QFile::exists(bench.pin));
+        QCOMPARE(bench.PathIn(bench.left), bolt);
+        QCOMPARE(bench.PathIn(bench.right), bolt);
+        QCOMPARE(bench.status.caption, Format(Text::RenameDone, "3", "0"));
+        QCOMPARE(updated.count(), 1);
+        QCOMPARE(updated[0][0].toString(), bolt);
+        QVERIFY(!bench.Button("apply")->isEnabled() && !bench.NewName()->isEnabled());
+        QCOMPARE(bench.Row(1).cells[kHolderColumn].foreColor, kColorBlue);
+    }
+
+    void withoutASearchTheUserIsAsked() {
+        Bench bench;
+        bench.Load();
+        bench.Type("bolt.tfmprt");
+        bench.dialogs.Expect(gStrings[360], Dialogs::Icon::Exclamation, Dialogs::Answer::Cancel);
+        bench.Apply();
+        QVERIFY(QFile::exists(bench.pin));
+        QCOMPARE(bench.dialogs.LastButtons(), Dialogs::Buttons::YesNoCancel);
+        bench.dialogs.Expect(gStrings[360], Dialogs::Icon::Exclamation, Dialogs::Answer::Yes);
+        bench.Apply();
+        QVERIFY(QFile::exists(bench.pin));
+        QCOMPARE(bench.List()->List().Count(), 2);
+        QTest::mouseClick(bench.Button("reset"), Qt::LeftButton);
+        QCOMPARE(bench.List()->List().Count(), 0);
+        QVERIFY(!bench.Button("reset")->isEnabled());
+        bench.dialogs.Expect(gStrings[360], Dialogs::Icon::Exclamation, Dialogs::Answer::No);
+        bench.Apply();
+        QVERIFY(!QFile::exists(bench.pin));
+        QCOMPARE(bench.status.caption, Format(Text::RenameDone, "1", "0"));  // the parent
+        QCOMPARE(bench.PathIn(bench.right), bench.pin);
+    }
+
+    void aRootHasNoParentToUpdate() {
+        Bench bench;
+        bench.pane->SetPartName("top", bench.top, bench.top, false);
+        bench.Find();
+        bench.Type("engine.tfmasm");
+        bench.Apply();
+        QVERIFY(QFile::exists(bench.library.Path("engine.tfmasm")));
+        QCOMPARE(bench.status.caption, Format(Text::RenameDone, "0", "0"));
+    }
+
+    void aHolderNamedLikeTheNewNameStopsApplyOnce() {
+        Bench bench;
+        const QString twin = bench.library.Make("sub/bolt.tfmprt", {{bench.pin}});
+        bench.Load();
+        bench.Find();
+        QCOMPARE(bench.List()->List().Count(), 3);
+        bench.Type("bolt.tfmprt");
+        bench.dialogs.Expect(Format(Text::HolderHasNewName, twin, "bolt.tfmprt"));
+        bench.Apply();
+        QVERIFY(bench.dialogs.AllCame());
+        QVERIFY(QFile::exists(bench.pin));
+        QCOMPARE(bench.Row(2).cells[kHolderColumn].foreColor, kColorRed);
+        QVERIFY(!bench.Row(2).ticked);
+        bench.Apply();
+        QVERIFY(!QFile::exists(bench.pin));
+    }
+
+    void aHolderInUseStopsApplyOnce() {
+        Bench bench;
+        bench.Load();
+        bench.Find();
+        bench.Type("bolt.tfmprt");
+        const FileLockHolder holder(bench.right);
+        bench.dialogs.Expect(Format(Text::AccessInUse, bench.right));
+        bench.Apply();
+        QVERIFY(QFile::exists(bench.pin));
+        QVERIFY(!bench.Row(1).ticked);
+        bench.Apply();
+        QVERIFY(!QFile::exists(bench.pin));
+    }
+
+    void theExportTellsHowTheRowsWent() {
+        Bench bench;
+        FakeSpreadsheet sheet;
+        bench.Load();
+        bench.dialogs.Expect(gStrings[43]);
+        bench.Child<QAction>("mnexport")->trigger();
+        bench.Find();
+        bench.ClickTick(1);
+        bench.Type("bolt.tfmprt");
+        bench.Apply();
+        bench.Child<QAction>("mnexport")->trigger();
+        QCOMPARE(sheet.shown.size(), size_t(3));
+        QCOMPARE(sheet.shown[0],
+                 std::vector<QString>({gStrings[31], gStrings[117], gStrings[19], gStrings[44]}));
+        QCOMPARE(sheet.shown[1],
+                 std::vector<QString>({bench.left, gRelationDefault, gStrings[45], gStrings[233]}));
+        QCOMPARE(sheet.shown[2],
+                 std::vector<QString>({bench.right, gRelationDefault, gStrings[235], ""}));
+        QCOMPARE(bench.status.caption, Format(Text::ExportDone, "2"));
+    }
+
+    void theSearchStopsByItsOwnButton() {
+        Bench bench;
+        bench.library.Make("a/one.tfmasm", {{bench.pin}});
+        bench.library.Make("b/two.tfmasm", {{bench.pin}});
+        bench.Load();
+        QTimer::singleShot(0, bench.pane.get(), [&] {
+            QCOMPARE(bench.Button("Findnow")->text(), gStrings[53]);
+            QVERIFY(!bench.Button("apply")->isEnabled());
+            bench.Find();
+        });
+        bench.Find();
+        QVERIFY(bench.List()->List().Count() < 4);
+        QCOMPARE(bench.Button("Findnow")->text(), gStrings[17]);
+        QVERIFY(bench.Button("apply")->isEnabled());
+        bench.Type("bolt.tfmprt");
+        bench.Apply();  // nobody asks: the search counts as done
+        QVERIFY(!QFile::exists(bench.pin));
+    }
+
+    void replacingPointsTheHoldersAtTheOtherDocument() {
+        Bench bench;
+        const QString bolt = bench.library.Make("lib/bolt.tfmprt");
+        bench.Load(true);
+        QCOMPARE(bench.NewName()->text(), bench.pin);
+        QCOMPARE(bench.Child<QLabel>("Label1")->text(), gStrings[359] + " :");
+        QVERIFY(!bench.Button("browse")->isHidden());
+        bench.dialogs.ExpectOpenFile(bolt);
+        QTest::mouseClick(bench.Button("browse"), Qt::LeftButton);
+        QCOMPARE(bench.dialogs.LastTitle(), gStrings[209]);
+        QCOMPARE(bench.dialogs.LastFilter(), gStrings[35]);
+        QCOMPARE(bench.dialogs.LastStart(), bench.pin);
+        QCOMPARE(bench.NewName()->text(), bolt);
+        bench.Apply();  // nobody asks for a search
+        QVERIFY(QFile::exists(bench.pin));
+        QCOMPARE(bench.PathIn(bench.left), bolt);
+        QCOMPARE(bench.PathIn(bench.right), bench.pin);
+        QCOMPARE(bench.status.caption, Format(Text::RenameDone, "1", "0"));
+    }
+
+    void wrongReplacementsAreRefused() {
+        Bench bench;
+        bench.Load(true);
+        const auto enter = [&](const QString& path) {
+            bench.Type(path);
+            QTest::keyClick(bench.NewName(), Qt::Key_Return);
+            QVERIFY(bench.dialogs.AllCame());
+            QVERIFY(!bench.Button("apply")->isEnabled());
+        };
+        const QString missing = bench.library.Path("none.tfmprt");
+        bench.dialogs.Expect(Format(Text::DocumentNotReadable, missing));
+        bench.dialogs.Expect(Format(Text::TargetCollides, "none"));
+        enter(missing);
+        bench.dialogs.Expect(gStrings[214]);
+        enter(bench.pin);
+        bench.dialogs.Expect(gStrings[216]);
+        enter(bench.library.Make("box.tfmasm"));
+        bench.dialogs.Expect(Format(Text::CircularReference, "left.tfmasm"));
+        bench.dialogs.Expect(Format(Text::TargetCollides, "loop"));
+        enter(bench.library.Make("loop.tfmprt", {}, {{bench.left, "in context"}}));
+    }
+
+    void aReplacementThatUsesTheReplacedDocumentPasses() {
+        Bench bench;
+        const QString better = bench.library.Make("better.tfmprt", {}, {{bench.pin, "derived"}});
+        bench.Load(true);
+        bench.Type(better);
+        QTest::keyClick(bench.NewName(), Qt::Key_Return);
+        QVERIFY(bench.Button("apply")->isEnabled());
+    }
+
+    void aReplacementOfMoreThanFiftyDocumentsIsRefused() {
+        Bench bench;
+        QList<TestLibrary::External> fifty;
+        for (int i = 0; i < 50; ++i)
+            fifty.append({bench.library.Make(QString("p%1.tfmprt").arg(i)), "derived"});
+        const QString large = bench.library.Make("large.tfmprt", {}, fifty);
+        bench.Load(true);
+        bench.Type(large);
+        bench.dialogs.Expect(Format(Text::TargetCollides, "large"));
+        QTest::keyClick(bench.NewName(), Qt::Key_Return);
+        QVERIFY(bench.dialogs.AllCame());
+        fifty.removeLast();
+        bench.library.Make("large.tfmprt", {}, fifty);
+        QTest::keyClick(bench.NewName(), Qt::Key_Return);
+        QVERIFY(bench.Button("apply")->isEnabled());
+    }
+
+    void aDrawingIsNotReplaced() {
+        Bench bench;
+        const QString sheet = bench.library.Make("sheet.tfmdrw", {{bench.top}});
+        bench.pane->SetPartName("sheet", sheet, sheet, true);
+        QCOMPARE(bench.NewName()->text(), QString());
+        QVERIFY(!bench.Button("apply")->isEnabled());
+    }
+
+    void aRootIsReplacedThroughTheDialogAtOnce() {
+        Bench bench;
+        bench.dialogs.ExpectOpenFile(QString());
+        bench.pane->SetPartName("top", bench.top, bench.top, true);
+        QVERIFY(bench.dialogs.AllCame());
+        QCOMPARE(bench.dialogs.LastFilter(), gStrings[36]);
+    }
+
+    void resetBringsTheQuestionBackWhenReplacing() {
+        Bench bench;
+        const QString bolt = bench.library.Make("lib/bolt.tfmprt");
+        bench.Load(true);
+        bench.Find();
+        QTest::mouseClick(bench.Button("reset"), Qt::LeftButton);
+        bench.Type(bolt);
+        bench.dialogs.Expect(gStrings[360], Dialogs::Icon::Exclamation, Dialogs::Answer::Cancel);
+        bench.Apply();
+        QVERIFY(bench.dialogs.AllCame());
+        QCOMPARE(bench.PathIn(bench.left), bench.pin);
+    }
+};
+
+DOCBENCH_TEST_MAIN(QApplication, TestRenameRef)
+#include "tst_renameref.moc"
