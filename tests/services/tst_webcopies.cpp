@@ -216,6 +216,57 @@ private Q_SLOTS:
         QCOMPARE(BytesOf(LocalCopyOf("http://s/w/bolt.tfmprt")), QByteArray("one"));
     }
 
+    void aDocumentThatMovesToAnotherFolderKeepsItsCopy() {
+        FakeWeb web;
+        web.server.files[kPin] = "one";
+        const QString copy = LocalCopyOf(kPin);
+        QVERIFY(RenameWebCopy(kPin, kOtherPin));
+        QCOMPARE(gWebCopies, (QHash<QString, QString>{{kOtherPin, copy}}));
+        QCOMPARE(BytesOf(copy), QByteArray("one"));
+    }
+
+    void aCopyThatCantBeMovedStaysWithItsAddress() {
+        FakeWeb web;
+        web.server.files[kPin] = "one";
+        const QString copy = LocalCopyOf(kPin);
+        QVERIFY(QDir().mkpath(gTempFolder + "tessaformadocbench/bolt.tfmprt"));
+        QVERIFY(!RenameWebCopy(kPin, "http://s/w/bolt.tfmprt"));
+        QCOMPARE(gWebCopies, (QHash<QString, QString>{{kPin, copy}}));
+        QCOMPARE(BytesOf(copy), QByteArray("one"));
+    }
+
+    void aMoveThatFailsLeavesTheCopyInItsWay() {
+        FakeWeb web;
+        web.server.files = {{kPin, "one"}, {"http://s/x/bolt.tfmprt", "two"}};
+        const QString bolt = LocalCopyOf("http://s/x/bolt.tfmprt");
+        QVERIFY(QFile::remove(LocalCopyOf(kPin)));
+        QVERIFY(!RenameWebCopy(kPin, "http://s/w/bolt.tfmprt"));
+        QCOMPARE(gWebCopies.value("http://s/x/bolt.tfmprt"), bolt);
+        QCOMPARE(BytesOf(bolt), QByteArray("two"));
+    }
+
+    void aNewAddressWithACopyOfItsOwnGetsTheMovedOne() {
+        FakeWeb web;
+        const QString bolt = "http://s/w/bolt.tfmprt";
+        web.server.files = {{kPin, "one"}, {"http://s/x/bolt.tfmprt", "two"}, {bolt, "three"}};
+        LocalCopyOf(kPin);
+        LocalCopyOf("http://s/x/bolt.tfmprt");
+        QCOMPARE(LocalCopyOf(bolt), gTempFolder + "tessaformadocbench/1bolt.tfmprt");
+        QVERIFY(RenameWebCopy(kPin, bolt));
+        QCOMPARE(gWebCopies,
+                 (QHash<QString, QString>{{bolt, gTempFolder + "tessaformadocbench/bolt.tfmprt"}}));
+        QCOMPARE(BytesOf(LocalCopyOf(bolt)), QByteArray("one"));
+    }
+
+    void whatWasNotFetchedYetIsFetchedForItsRenaming() {
+        FakeWeb web;
+        web.server.files[kPin] = "one";
+        QVERIFY(RenameWebCopy(kPin, "http://s/w/bolt.tfmprt"));
+        QCOMPARE(web.server.calls, QStringList("get " + kPin));
+        QCOMPARE(BytesOf(LocalCopyOf("http://s/w/bolt.tfmprt")), QByteArray("one"));
+        QVERIFY(!gWebCopies.contains(kPin));
+    }
+
     void whatHasNoCopyIsNotRenamed() {
         const FakeWeb web;
         QVERIFY(!RenameWebCopy(kPin, "http://s/w/bolt.tfmprt"));
