@@ -30,12 +30,14 @@ public:
         return secrets.contains(entry) ? std::optional(secrets[entry]) : std::nullopt;
     }
     bool Write(const QString& entry, const QString& secret) override {
-        secrets[entry] = secret;
-        return true;
+        if (!locked)
+            secrets[entry] = secret;
+        return !locked;
     }
     void Delete(const QString& entry) override { secrets.remove(entry); }
 
     QMap<QString, QString> secrets;
+    bool locked = false;  // takes nothing
 };
 
 }  // namespace
@@ -306,6 +308,45 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         dialogs.ExpectPassword(Dialogs::Password{"ann", "secret", false});
         QVERIFY(WebCredentials().Ask("https://u:443", "docs", 0));
+    }
+
+    void aPasswordThatCouldNotBeKeptIsTold() {
+        FakeKeyRing keyring;
+        TestDialogs dialogs;
+        keyring.locked = true;
+        dialogs.ExpectPassword(Dialogs::Password{"ann", "secret", true});
+        const auto answer = WebCredentials().Ask("https://l:443", "docs", 0);
+        dialogs.Expect("The password for https://l:443 could not be kept*");
+        WebCredentials().Accepted("https://l:443", "docs", *answer);
+        QVERIFY(dialogs.AllCame());
+    }
+
+    void aTickIsForItsOwnAnswerAlone() {
+        FakeKeyRing keyring;
+        TestDialogs dialogs;
+        CredentialSource& source = WebCredentials();
+        dialogs.ExpectPassword(Dialogs::Password{"ann", "wrong", true});
+        QVERIFY(source.Ask("https://r:443", "docs", 0));
+        dialogs.ExpectPassword(std::nullopt);
+        QVERIFY(!source.Ask("https://r:443", "docs", 1));
+        source.Accepted("https://r:443", "docs", Credentials{"bob", "other"});  // not asked for
+        QVERIFY(keyring.secrets.isEmpty());
+        QCoreApplication::processEvents();  // something else is done
+        dialogs.ExpectPassword(Dialogs::Password{"ann", "secret", false});
+        const auto answer = source.Ask("https://r:443", "docs", 0);
+        source.Accepted("https://r:443", "docs", *answer);
+        QVERIFY(keyring.secrets.isEmpty());
+    }
+
+    void aSecretThatIsNoneOfOursLeadsToAsking() {
+        FakeKeyRing keyring;
+        TestDialogs dialogs;
+        keyring.secrets["https://m:443 docs"] = "no line break";
+        dialogs.ExpectPassword(Dialogs::Password{"ann", "secret", false});
+        const auto answer = WebCredentials().Ask("https://m:443", "docs", 0);
+        QVERIFY(answer);
+        QCOMPARE(answer->password, QString("secret"));
+        QVERIFY(dialogs.AllCame());
     }
 
     void withoutTheTickNothingIsKept() {
