@@ -22,6 +22,54 @@ QByteArray BytesOf(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+// A listing that does not know what one of its entries is.
+class KindlessListing : public FakeListing {
+public:
+    KindlessListing(const QMap<QString, QString>& entries, QString kindless)
+        : FakeListing(entries), kindless_(std::move(kindless)) {}
+    bool GetProperty(const QString& url, const QString& nameSpace, const QString& name,
+                     QString& value) override {
+        return url != kindless_ && FakeListing::GetProperty(url, nameSpace, name, value);
+    }
+
+private:
+    QString kindless_;
+};
+
+// Lists pins 0 to 2 of a folder; one of them can't be had, of one the listing doesn't say what it
+// is.
+class PinsClient : public FakeWebClient {
+public:
+    using FakeWebClient::FakeWebClient;
+    static QString Pin(int number) { return QStringLiteral("http://s/p/pin%1.prt").arg(number); }
+    bool GetFile(const QString& url, const QString& localPath) override {
+        return url != missing && FakeWebClient::GetFile(url, localPath);
+    }
+    std::unique_ptr<WebFolderListing> ListFolder(const QString&) override {
+        const QString file = QStringLiteral("File");
+        return std::make_unique<KindlessListing>(
+            QMap<QString, QString>{{Pin(0), file}, {Pin(1), file}, {Pin(2), file}}, kindless);
+    }
+
+    QString missing;
+    QString kindless;
+};
+
+struct PinsWeb : FakeWeb {
+    PinsWeb() {
+        auto made = std::make_unique<PinsClient>(server);
+        client = made.get();
+        gWebFolder = std::move(made);
+        for (int i = 0; i < 3; ++i)
+            server.files[PinsClient::Pin(i)] = "x";
+    }
+    static QStringList Mirrored(const QString& folder) {
+        return QDir(folder).entryList(QDir::Files, QDir::Name);
+    }
+
+    PinsClient* client = nullptr;
+};
+
 class FakeKeyRing : public KeyRing {
 public:
     FakeKeyRing() { gSeams.keyring = this; }
@@ -167,6 +215,17 @@ private Q_SLOTS:
         QVERIFY(UploadIfWeb(kPin));
     }
 
+    void anUploadWithoutAClientIsToldInTheSameBox() {
+        TestDialogs dialogs;
+        gWebCopies = {{kPin, "/w/pin.tfmprt"}};
+        dialogs.Expect("File save to server failed", Dialogs::Icon::None);
+        QVERIFY(!UploadIfWeb(kPin));
+        gWebCopies.clear();
+        QVERIFY(dialogs.AllCame());
+        QCOMPARE(dialogs.LastTitle(), QString());
+        QCOMPARE(dialogs.LastDetail(), QString());
+    }
+
     void theAddressOfACopyIsFoundByItsCleanedPath() {
         FakeWeb web;
         web.server.files[kPin] = "one";
@@ -193,6 +252,40 @@ private Q_SLOTS:
         QString folder;
         QVERIFY(!MirrorWebFolder("http://s/w/", folder));
         QVERIFY(!MirrorWebFolder("http://s/nowhere/", folder));
+    }
+
+    void oneDocumentThatFailsDoesNotSpoilTheMirror_data() {
+        QTest::addColumn<int>("missing");
+        for (int i = 0; i < 3; ++i)
+            QTest::addRow("%d", i) << i;
+    }
+    void oneDocumentThatFailsDoesNotSpoilTheMirror() {
+        QFETCH(int, missing);
+        PinsWeb web;
+        web.client->missing = PinsClient::Pin(missing);
+        QString folder;
+        QVERIFY(MirrorWebFolder("http://s/p/", folder));
+        QCOMPARE(PinsWeb::Mirrored(folder).size(), 2);
+        QVERIFY(!gWebCopies.contains(web.client->missing));
+    }
+
+    void whatTheServerDoesNotCallAFileIsNotMirrored() {
+        PinsWeb web;
+        web.client->kindless = PinsClient::Pin(1);
+        QString folder;
+        QVERIFY(MirrorWebFolder("http://s/p/", folder));
+        QCOMPARE(PinsWeb::Mirrored(folder), QStringList({"pin0.prt", "pin2.prt"}));
+    }
+
+    void aFolderThatIsMirroredAgainIsNotFetchedAgain() {
+        PinsWeb web;
+        QString folder;
+        QVERIFY(MirrorWebFolder("http://s/p/", folder));
+        const QStringList calls = web.server.calls;
+        QCOMPARE(calls.size(), 3);
+        QVERIFY(MirrorWebFolder("http://s/p/", folder));
+        QCOMPARE(web.server.calls, calls);
+        QCOMPARE(PinsWeb::Mirrored(folder).size(), 3);
     }
 
     void aRenamedDocumentTakesItsCopyAlong() {
