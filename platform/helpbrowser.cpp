@@ -53,6 +53,9 @@ HelpBrowser::HelpBrowser()
         if (item)
             ShowPage(item->data(0, kFileRole).toString());
     });
+    // A page that the reader left by a link comes back by a click on the entry it is under.
+    connect(list_, &QTreeWidget::itemClicked, this,
+            [this](QTreeWidgetItem* item) { ShowPage(item->data(0, kFileRole).toString()); });
     connect(page_, &QTextBrowser::sourceChanged, this, &HelpBrowser::Follow);
     page_->setFocus();
 }
@@ -130,7 +133,13 @@ void HelpBrowser::ListFound(const QString& question) {
     const QSignalBlocker quiet(list_);
     list_->clear();
     if (question.simplified().isEmpty())
-        return ListContents();
+        ListContents();
+    else
+        ListHits(question);
+    Follow(page_->source());
+}
+
+void HelpBrowser::ListHits(const QString& question) {
     for (const int found : pages_.Search(question)) {
         const HelpPage& page = pages_.Pages()[size_t(found)];
         auto* item = new QTreeWidgetItem(list_);
@@ -143,10 +152,12 @@ void HelpBrowser::Follow(const QUrl& page) {
     const QString title = page_->documentTitle();
     setWindowTitle(title);
     const QSignalBlocker quiet(list_);
+    QTreeWidgetItem* fitting = nullptr;
     for (QTreeWidgetItemIterator item(list_); *item; ++item) {
         if (QUrl::fromLocalFile((*item)->data(0, kFileRole).toString()) == page)
-            list_->setCurrentItem(*item);
+            fitting = *item;
     }
+    list_->setCurrentItem(fitting);  // a page that is not listed leaves no other entry marked
 }
 
 }  // namespace docbench

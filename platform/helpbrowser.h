@@ -24,7 +24,9 @@ private:
     void MakeTools(class QLayout& tools);
     void MakeShortcuts();
     void ListContents();
+    // The pages that the question finds, or the contents for an empty one.
     void ListFound(const QString& question);
+    void ListHits(const QString& question);
     // The page on the right has changed; the browser itself does not yet know its new source then.
     void Follow(const QUrl& page);
 

@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QShortcut>
 #include <QUrl>
 
 #include "services/docaccess.h"
@@ -55,6 +56,23 @@ QString ParentOf(const QString& folder) {
     return above.size() > host ? above : QString();
 }
 
+// Why an address can't be gone to, in words; empty when it can. The words never repeat it: what
+// looks wrong may hold a password.
+QString ReasonAgainst(const QString& address) {
+    const QUrl url(address);
+    if (url.userInfo().contains(u':'))
+        return QStringLiteral(
+            "Type the address without the password; you will be asked for it. Addresses are "
+            "remembered and listed, and a password is not for that.");
+    const bool web =
+        url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http");
+    if (!url.isValid() || !web || url.host().isEmpty())
+        return QStringLiteral(
+            "This is no address of a web folder. Type one that begins with https:// or http://, "
+            "such as https://server/folder/.");
+    return {};
+}
+
 void SortByName(QStringList& addresses) {
     // The locale of no language sorts by bytes.
     const QLocale user;
@@ -91,6 +109,9 @@ URLFileOpen::URLFileOpen(QWidget* parent)
         Q_EMIT Event(QStringLiteral("FileTypeChangeEvent"));
     });
     connect(up_, &QPushButton::clicked, this, [this] { ShowFolder(ParentOf(folder_)); });
+    // A shortcut and no key of the form: the list and the address line would take the key first.
+    connect(new QShortcut(Qt::ALT | Qt::Key_Up, this), &QShortcut::activated, this,
+            [this] { ShowFolder(ParentOf(folder_)); });
     connect(open_, &QPushButton::clicked, this, [this] { Activate(entries_->currentItem()); });
     connect(findChild<QPushButton*>(QStringLiteral("cancel")), &QPushButton::clicked, this,
             [this] { Q_EMIT Event(QStringLiteral("CancelEvent")); });
@@ -142,9 +163,6 @@ void URLFileOpen::AddFileType(const QString& type) {
 void URLFileOpen::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape)
         Q_EMIT Event(QStringLiteral("CancelEvent"));
-    else if (event->key() == Qt::Key_Up && event->modifiers() == Qt::AltModifier &&
-             up_->isEnabled())
-        ShowFolder(ParentOf(folder_));
     else if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         QWidget::keyPressEvent(event);  // Enter is answered by what has the focus, not by the form
 }
@@ -153,6 +171,8 @@ void URLFileOpen::Go(const QString& typed) {
     QString address = typed.trimmed();
     if (!address.contains(QLatin1String("://")))
         address.prepend(QStringLiteral("https://"));
+    if (const QString reason = ReasonAgainst(address); !reason.isEmpty())
+        return ShowError(reason);
     if (DocTypeOf(address) != DocType::None)
         Open(address);
     else
@@ -206,9 +226,9 @@ void URLFileOpen::ListEntries() {
 
 bool URLFileOpen::Matches(const QString& name) const {
     const QString type = types_->currentText();
-    const QString patterns = type.mid(type.lastIndexOf(u'(') + 1).chopped(1);
-    if (types_->count() == 0)
+    if (type.isEmpty())  // no type was added
         return DocTypeOf(name) != DocType::None;
+    const QString patterns = type.mid(type.lastIndexOf(u'(') + 1).chopped(1);
     for (const QString& pattern : patterns.split(u',')) {
         const auto wildcard = QRegularExpression::fromWildcard(pattern.trimmed());
         if (wildcard.match(name.toLower()).hasMatch())
@@ -241,9 +261,6 @@ void URLFileOpen::ShowError(const QString& text) {
 void URLFileOpen::Remember(const QString& folder) {
     QStringList addresses = RememberedAddresses();
     addresses.removeAll(folder);
-    // A password that was typed into the address is not for the settings.
-    if (!QUrl(folder).password().isEmpty())
-        return;
     addresses.prepend(folder);
     const auto key = AddressesKey();
     for (int i = 0; key && i < qMin(kRemembered, int(addresses.size())); ++i)

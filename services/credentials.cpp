@@ -37,6 +37,7 @@ public:
         }
         if (attempt > 0 && gSeams.keyring)
             gSeams.keyring->Delete(entry);  // what it held was refused
+        toKeep_.remove(entry);              // a tick is for the answer it was given with
         if (cancelled_.contains(entry))
             return std::nullopt;
         const auto answer = gSeams.dialogs->AskPassword(server, realm, attempt > 0);
@@ -46,16 +47,18 @@ public:
         }
         if (answer->remember)
             toKeep_.insert(entry);
-        else
-            toKeep_.remove(entry);
         return Credentials{answer->user, answer->password};
     }
 
     void Accepted(const QString& server, const QString& realm,
                   const Credentials& credentials) override {
         const QString entry = EntryOf(server, realm);
-        if (toKeep_.remove(entry) && gSeams.keyring)
-            gSeams.keyring->Write(entry, credentials.user + u'\n' + credentials.password);
+        const QString secret = credentials.user + u'\n' + credentials.password;
+        if (toKeep_.remove(entry) && gSeams.keyring && !gSeams.keyring->Write(entry, secret))
+            gSeams.dialogs->Box(QStringLiteral("The password for %1 could not be kept in the "
+                                               "keyring. You will be asked for it again.")
+                                    .arg(server),
+                                Dialogs::Icon::Exclamation, QString());
     }
 
 private:

@@ -19,6 +19,7 @@ namespace {
 constexpr mode_t kOwnerOnly = 0700;
 constexpr char kAbandoned[] = ".abandoned";  // marks a folder that is being deleted
 constexpr int kMostFolders = 100;            // of processes with one id, as in containers
+constexpr int kMostTries = 100;              // to be quicker than the programs that end
 
 QString Reason(int error) {
     return QString::fromStdString(std::generic_category().message(error));
@@ -95,13 +96,24 @@ void DeleteIfAbandoned(const QString& folder) {
 ProcessFolder::ProcessFolder(const QString& parent) : userFolder_(MakeUserFolder(parent)) {
     const QString name = QString::number(::getpid());
     for (int i = 0; lock_ < 0 && i < kMostFolders; ++i) {
-        path_ = userFolder_ + u'/' + (i == 0 ? name : name + u'-' + QString::number(i));
-        if (::mkdir(QFile::encodeName(path_).constData(), kOwnerOnly) != 0 && errno != EEXIST)
-            Fail(path_, errno);
+        MakeFolder(parent, i == 0 ? name : name + u'-' + QString::number(i));
         lock_ = Lock(QFile::encodeName(path_));
     }
     if (lock_ < 0)
         Fail(path_, EWOULDBLOCK);
+}
+
+// Another program that ends takes the user's folder with it as long as nothing is in it.
+void ProcessFolder::MakeFolder(const QString& parent, const QString& name) {
+    path_ = userFolder_ + u'/' + name;
+    for (int i = 0; ::mkdir(QFile::encodeName(path_).constData(), kOwnerOnly) != 0; ++i) {
+        if (errno == EEXIST)
+            return;
+        if (errno != ENOENT || i == kMostTries)
+            Fail(path_, errno);
+        userFolder_ = MakeUserFolder(parent);
+        path_ = userFolder_ + u'/' + name;
+    }
 }
 
 ProcessFolder::~ProcessFolder() {

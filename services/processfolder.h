@@ -24,6 +24,8 @@ public:
     void DeleteAbandoned() const;
 
 private:
+    void MakeFolder(const QString& parent, const QString& name);
+
     QString userFolder_;
     QString path_;
     int lock_ = -1;

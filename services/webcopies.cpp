@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <cstdio>
 
 #include "services/credentials.h"
 #include "services/dialogs.h"
@@ -38,6 +39,11 @@ QString FreeCopyName(const QString& url) {
     for (int i = 1; QFile::exists(local) && FindUrlOfCopy(local, other) && other != url; ++i)
         local = CopyFolder() + QString::number(i) + name;
     return local;
+}
+
+// Moves a file over another one in one step: when it fails, both are as they were.
+bool Replace(const QString& from, const QString& to) {
+    return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
 }
 
 }  // namespace
@@ -135,14 +141,13 @@ bool RenameWebCopy(const QString& oldUrl, const QString& newUrl) {
     if (former.isEmpty())
         return false;
     const QString copy = FolderOf(former) + UrlFileName(newUrl);
+    if (copy != former && !Replace(former, copy)) {
+        gWebCopies.insert(oldUrl, former);  // its changes may not be on the server yet
+        return false;
+    }
     QString other;
     if (FindUrlOfCopy(copy, other))
         gWebCopies.remove(other);
-    if (copy != former) {
-        QFile::remove(copy);
-        if (!QFile::rename(former, copy))
-            return false;
-    }
     gWebCopies.insert(newUrl, copy);
     return true;
 }

@@ -43,7 +43,7 @@ bool FindUrlOfCopy(const QString& local, QString& url);
 bool MirrorWebFolder(const QString& url, QString& localFolder);
 
 // Takes the copy of an address over to the address that its document was renamed to, moving the
-// local file. False without a copy, or when the file can't be moved.
+// local file. False without a copy, or when the file can't be moved; all is as before then.
 bool RenameWebCopy(const QString& oldUrl, const QString& newUrl);
 
 }  // namespace docbench

@@ -9,6 +9,7 @@
 #include "services/language.h"
 #include "services/scratch.h"
 #include "services/settingsstore.h"
+#include "shell/openurlfrm.h"
 #include "shell/picturebox.h"
 #include "shell/previewpane.h"
 #include "shell/viewer.h"
@@ -21,7 +22,9 @@ using namespace docbench;
 
 namespace {
 
-const QString kFolder = QStringLiteral(TEST_COMPONENTS);
+const QString kFolder = QStringLiteral(TEST_COMPONENTS "/viewer");
+const QString kNothingFolder = QStringLiteral(TEST_COMPONENTS "/nothing");
+const QString kNoWidgetFolder = QStringLiteral(TEST_COMPONENTS "/nowidget");
 
 QByteArray Picture() {
     QImage picture(40, 30, QImage::Format_RGB32);
@@ -58,6 +61,42 @@ private Q_SLOTS:
         broken.write("no library");
         broken.close();
         QVERIFY(!CreateComponent(folder.path(), QLatin1String(kViewerProgramId)));
+    }
+
+    void aFactoryThatMakesNothingIsNoComponent() {
+        QVERIFY(QFile::exists(kNothingFolder + QStringLiteral("/testnothing.so")));
+        QVERIFY(!CreateComponent(kNothingFolder, QLatin1String(kViewerProgramId)));
+        FakeOutside outside;
+        outside.make = [](const QString& id) { return CreateComponent(kNothingFolder, id); };
+        QVERIFY(!IsViewerAvailable());
+        QVERIFY(!UseViewer);
+    }
+
+    void aComponentThatIsNoWidgetIsPassedOver() {
+        TestLibrary library;
+        const TestDialogs dialogs;
+        LoadResources();
+        PrepareScratch();
+        FakeOutside outside;
+        int alive = 0;  // objects that the plug-in has made
+        outside.make = [&](const QString&) {
+            auto made = CreateComponent(kNoWidgetFolder, QLatin1String(kViewerProgramId));
+            alive += made ? 1 : 0;
+            QObject::connect(made.get(), &QObject::destroyed, [&alive] { --alive; });
+            return made;
+        };
+        const QString pin = library.Make(QStringLiteral("pin.tfmprt"));
+        library.SetPreview(pin, Picture());
+        PreviewPane pane;
+        pane.resize(600, 400);
+        pane.show();
+        pane.ShowPreview(pin);
+        QVERIFY(!pane.findChild<QObject*>(QStringLiteral("vistamodel1")));
+        QCOMPARE(pane.findChild<QWidget*>(QStringLiteral("Image1A_0"))->toolTip(), pin);
+        const OpenURLFrm form;
+        QVERIFY(!form.HasPicker());
+        QVERIFY(outside.created.size() > 2);
+        QCOMPARE(alive, 0);
     }
 
     void theViewerIsAskedForOncePerProcess() {

@@ -62,6 +62,10 @@ QTextBrowser* ShownPage() {
     return ShownHelp()->findChild<QTextBrowser*>();
 }
 
+void ClickItem(QTreeWidget* list, QTreeWidgetItem* item) {
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(item).center());
+}
+
 QStringList Listed(const QTreeWidget* list) {
     QStringList titles;
     for (QTreeWidgetItemIterator item(const_cast<QTreeWidget*>(list)); *item; ++item)
@@ -82,6 +86,10 @@ private Q_SLOTS:
     void aTopicOpensItsPage();
     void aPageOfItsOwnIsShown();
     void theContentsFollowThePage();
+    void anEntryLeadsBackToItsPageAfterTheStartPage();
+    void aClickOnTheMarkedEntryShowsItsPage();
+    void theMarkStaysWhenATopicIsOpenedTwice();
+    void theMarkStaysWhenTheSearchIsCleared();
     void aSearchListsThePagesThatItFinds();
     void oneStepBackLeadsToThePageBefore();
     void theWindowOpensAgainAfterItWasClosed();
@@ -161,6 +169,55 @@ void TestHelp::theContentsFollowThePage() {
     QCOMPARE(list->currentItem()->text(0), QStringLiteral("Gears"));
     QTest::keyClick(list, Qt::Key_Down);
     QCOMPARE(ShownPage()->source().toLocalFile(), help.Page("seals"));
+}
+
+void TestHelp::anEntryLeadsBackToItsPageAfterTheStartPage() {
+    const SmallHelp help;
+    HelpWindow window;
+    window.Open(help.file, QStringLiteral("pumps"));
+    auto* list = ShownHelp()->findChild<QTreeWidget*>();
+    ShownHelp()->findChild<QAbstractButton*>(QStringLiteral("home"))->click();
+    QVERIFY(!list->currentItem());
+    QVERIFY(list->selectedItems().isEmpty());
+    ClickItem(list, list->topLevelItem(0));
+    QCOMPARE(ShownPage()->source().toLocalFile(), help.Page("pumps"));
+}
+
+void TestHelp::aClickOnTheMarkedEntryShowsItsPage() {
+    const SmallHelp help;
+    HelpWindow window;
+    window.Open(help.file, QStringLiteral("pumps"));
+    auto* list = ShownHelp()->findChild<QTreeWidget*>();
+    {
+        const QSignalBlocker quiet(list);  // marked, as by a press that was dragged away
+        list->setCurrentItem(list->topLevelItem(0)->child(1));
+    }
+    ClickItem(list, list->currentItem());
+    QCOMPARE(ShownPage()->source().toLocalFile(), help.Page("seals"));
+}
+
+void TestHelp::theMarkStaysWhenATopicIsOpenedTwice() {
+    const SmallHelp help;
+    HelpWindow window;
+    for (int time = 0; time < 2; ++time) {
+        window.Open(help.file, QStringLiteral("gears"));
+        const auto* list = ShownHelp()->findChild<QTreeWidget*>();
+        QVERIFY(list->currentItem());
+        QCOMPARE(list->currentItem()->text(0), QStringLiteral("Gears"));
+    }
+}
+
+void TestHelp::theMarkStaysWhenTheSearchIsCleared() {
+    const SmallHelp help;
+    HelpWindow window;
+    window.Open(help.file, QStringLiteral("seals"));
+    const auto* list = ShownHelp()->findChild<QTreeWidget*>();
+    auto* search = ShownHelp()->findChild<QLineEdit*>(QStringLiteral("search"));
+    QTest::keyClicks(search, QStringLiteral("teeth"));
+    QVERIFY(!list->currentItem());
+    search->clear();
+    QVERIFY(list->currentItem());
+    QCOMPARE(list->currentItem()->text(0), QStringLiteral("Seals"));
 }
 
 void TestHelp::aSearchListsThePagesThatItFinds() {

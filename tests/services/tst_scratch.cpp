@@ -6,8 +6,12 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
+#include <atomic>
 #include <cstdio>
+#include <thread>
 
+#include "services/docaccess.h"
+#include "services/processfolder.h"
 #include "services/scratch.h"
 #include "tests/support/testenvironment.h"
 
@@ -118,6 +122,30 @@ private Q_SLOTS:
         const Holder other(temp.path());
         QVERIFY(other.Folder() != living.Folder());
         QVERIFY(QFileInfo::exists(living.Folder() + "tessaformadocbench/sub/a.tfmprt"));
+    }
+
+    void AProgramThatEndsMeanwhileDoesNoHarm() {
+        const QTemporaryDir temp;
+        const QByteArray user = QFile::encodeName(UserFolder(temp.path()));
+        std::atomic<bool> done = false;
+        std::thread ending([&] {
+            while (!done)
+                ::rmdir(user.constData());  // what a program's end does last
+        });
+        constexpr int kTimes = 200;
+        int made = 0;
+        try {
+            for (; made < kTimes; ++made) {
+                const ProcessFolder folder(temp.path());
+                if (!QFileInfo::exists(folder.Path()))
+                    break;
+            }
+        } catch (const DocumentError& error) {
+            qWarning("%s", error.what());
+        }
+        done = true;
+        ending.join();
+        QCOMPARE(made, kTimes);
     }
 
     void TheFolderOfAKilledProcessIsDeletedByTheNext() {

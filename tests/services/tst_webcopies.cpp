@@ -22,6 +22,54 @@ QByteArray BytesOf(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+// A listing that does not know what one of its entries is.
+class KindlessListing : public FakeListing {
+public:
+    KindlessListing(const QMap<QString, QString>& entries, QString kindless)
+        : FakeListing(entries), kindless_(std::move(kindless)) {}
+    bool GetProperty(const QString& url, const QString& nameSpace, const QString& name,
+                     QString& value) override {
+        return url != kindless_ && FakeListing::GetProperty(url, nameSpace, name, value);
+    }
+
+private:
+    QString kindless_;
+};
+
+// Lists pins 0 to 2 of a folder; one of them can't be had, of one the listing doesn't say what it
+// is.
+class PinsClient : public FakeWebClient {
+public:
+    using FakeWebClient::FakeWebClient;
+    static QString Pin(int number) { return QStringLiteral("http://s/p/pin%1.prt").arg(number); }
+    bool GetFile(const QString& url, const QString& localPath) override {
+        return url != missing && FakeWebClient::GetFile(url, localPath);
+    }
+    std::unique_ptr<WebFolderListing> ListFolder(const QString&) override {
+        const QString file = QStringLiteral("File");
+        return std::make_unique<KindlessListing>(
+            QMap<QString, QString>{{Pin(0), file}, {Pin(1), file}, {Pin(2), file}}, kindless);
+    }
+
+    QString missing;
+    QString kindless;
+};
+
+struct PinsWeb : FakeWeb {
+    PinsWeb() {
+        auto made = std::make_unique<PinsClient>(server);
+        client = made.get();
+        gWebFolder = std::move(made);
+        for (int i = 0; i < 3; ++i)
+            server.files[PinsClient::Pin(i)] = "x";
+    }
+    static QStringList Mirrored(const QString& folder) {
+        return QDir(folder).entryList(QDir::Files, QDir::Name);
+    }
+
+    PinsClient* client = nullptr;
+};
+
 class FakeKeyRing : public KeyRing {
 public:
     FakeKeyRing() { gSeams.keyring = this; }
@@ -30,12 +78,14 @@ public:
         return secrets.contains(entry) ? std::optional(secrets[entry]) : std::nullopt;
     }
     bool Write(const QString& entry, const QString& secret) override {
-        secrets[entry] = secret;
-        return true;
+        if (!locked)
+            secrets[entry] = secret;
+        return !locked;
     }
     void Delete(const QString& entry) override { secrets.remove(entry); }
 
     QMap<QString, QString> secrets;
+    bool locked = false;  // takes nothing
 };
 
 }  // namespace
@@ -165,6 +215,17 @@ private Q_SLOTS:
         QVERIFY(UploadIfWeb(kPin));
     }
 
+    void anUploadWithoutAClientIsToldInTheSameBox() {
+        TestDialogs dialogs;
+        gWebCopies = {{kPin, "/w/pin.tfmprt"}};
+        dialogs.Expect("File save to server failed", Dialogs::Icon::None);
+        QVERIFY(!UploadIfWeb(kPin));
+        gWebCopies.clear();
+        QVERIFY(dialogs.AllCame());
+        QCOMPARE(dialogs.LastTitle(), QString());
+        QCOMPARE(dialogs.LastDetail(), QString());
+    }
+
     void theAddressOfACopyIsFoundByItsCleanedPath() {
         FakeWeb web;
         web.server.files[kPin] = "one";
@@ -193,6 +254,40 @@ private Q_SLOTS:
         QVERIFY(!MirrorWebFolder("http://s/nowhere/", folder));
     }
 
+    void oneDocumentThatFailsDoesNotSpoilTheMirror_data() {
+        QTest::addColumn<int>("missing");
+        for (int i = 0; i < 3; ++i)
+            QTest::addRow("%d", i) << i;
+    }
+    void oneDocumentThatFailsDoesNotSpoilTheMirror() {
+        QFETCH(int, missing);
+        PinsWeb web;
+        web.client->missing = PinsClient::Pin(missing);
+        QString folder;
+        QVERIFY(MirrorWebFolder("http://s/p/", folder));
+        QCOMPARE(PinsWeb::Mirrored(folder).size(), 2);
+        QVERIFY(!gWebCopies.contains(web.client->missing));
+    }
+
+    void whatTheServerDoesNotCallAFileIsNotMirrored() {
+        PinsWeb web;
+        web.client->kindless = PinsClient::Pin(1);
+        QString folder;
+        QVERIFY(MirrorWebFolder("http://s/p/", folder));
+        QCOMPARE(PinsWeb::Mirrored(folder), QStringList({"pin0.prt", "pin2.prt"}));
+    }
+
+    void aFolderThatIsMirroredAgainIsNotFetchedAgain() {
+        PinsWeb web;
+        QString folder;
+        QVERIFY(MirrorWebFolder("http://s/p/", folder));
+        const QStringList calls = web.server.calls;
+        QCOMPARE(calls.size(), 3);
+        QVERIFY(MirrorWebFolder("http://s/p/", folder));
+        QCOMPARE(web.server.calls, calls);
+        QCOMPARE(PinsWeb::Mirrored(folder).size(), 3);
+    }
+
     void aRenamedDocumentTakesItsCopyAlong() {
         FakeWeb web;
         web.server.files[kPin] = "one";
@@ -214,6 +309,57 @@ private Q_SLOTS:
         QVERIFY(RenameWebCopy(kPin, "http://s/w/bolt.tfmprt"));
         QVERIFY(!gWebCopies.contains("http://s/x/bolt.tfmprt"));
         QCOMPARE(BytesOf(LocalCopyOf("http://s/w/bolt.tfmprt")), QByteArray("one"));
+    }
+
+    void aDocumentThatMovesToAnotherFolderKeepsItsCopy() {
+        FakeWeb web;
+        web.server.files[kPin] = "one";
+        const QString copy = LocalCopyOf(kPin);
+        QVERIFY(RenameWebCopy(kPin, kOtherPin));
+        QCOMPARE(gWebCopies, (QHash<QString, QString>{{kOtherPin, copy}}));
+        QCOMPARE(BytesOf(copy), QByteArray("one"));
+    }
+
+    void aCopyThatCantBeMovedStaysWithItsAddress() {
+        FakeWeb web;
+        web.server.files[kPin] = "one";
+        const QString copy = LocalCopyOf(kPin);
+        QVERIFY(QDir().mkpath(gTempFolder + "tessaformadocbench/bolt.tfmprt"));
+        QVERIFY(!RenameWebCopy(kPin, "http://s/w/bolt.tfmprt"));
+        QCOMPARE(gWebCopies, (QHash<QString, QString>{{kPin, copy}}));
+        QCOMPARE(BytesOf(copy), QByteArray("one"));
+    }
+
+    void aMoveThatFailsLeavesTheCopyInItsWay() {
+        FakeWeb web;
+        web.server.files = {{kPin, "one"}, {"http://s/x/bolt.tfmprt", "two"}};
+        const QString bolt = LocalCopyOf("http://s/x/bolt.tfmprt");
+        QVERIFY(QFile::remove(LocalCopyOf(kPin)));
+        QVERIFY(!RenameWebCopy(kPin, "http://s/w/bolt.tfmprt"));
+        QCOMPARE(gWebCopies.value("http://s/x/bolt.tfmprt"), bolt);
+        QCOMPARE(BytesOf(bolt), QByteArray("two"));
+    }
+
+    void aNewAddressWithACopyOfItsOwnGetsTheMovedOne() {
+        FakeWeb web;
+        const QString bolt = "http://s/w/bolt.tfmprt";
+        web.server.files = {{kPin, "one"}, {"http://s/x/bolt.tfmprt", "two"}, {bolt, "three"}};
+        LocalCopyOf(kPin);
+        LocalCopyOf("http://s/x/bolt.tfmprt");
+        QCOMPARE(LocalCopyOf(bolt), gTempFolder + "tessaformadocbench/1bolt.tfmprt");
+        QVERIFY(RenameWebCopy(kPin, bolt));
+        QCOMPARE(gWebCopies,
+                 (QHash<QString, QString>{{bolt, gTempFolder + "tessaformadocbench/bolt.tfmprt"}}));
+        QCOMPARE(BytesOf(LocalCopyOf(bolt)), QByteArray("one"));
+    }
+
+    void whatWasNotFetchedYetIsFetchedForItsRenaming() {
+        FakeWeb web;
+        web.server.files[kPin] = "one";
+        QVERIFY(RenameWebCopy(kPin, "http://s/w/bolt.tfmprt"));
+        QCOMPARE(web.server.calls, QStringList("get " + kPin));
+        QCOMPARE(BytesOf(LocalCopyOf("http://s/w/bolt.tfmprt")), QByteArray("one"));
+        QVERIFY(!gWebCopies.contains(kPin));
     }
 
     void whatHasNoCopyIsNotRenamed() {
@@ -255,6 +401,45 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         dialogs.ExpectPassword(Dialogs::Password{"ann", "secret", false});
         QVERIFY(WebCredentials().Ask("https://u:443", "docs", 0));
+    }
+
+    void aPasswordThatCouldNotBeKeptIsTold() {
+        FakeKeyRing keyring;
+        TestDialogs dialogs;
+        keyring.locked = true;
+        dialogs.ExpectPassword(Dialogs::Password{"ann", "secret", true});
+        const auto answer = WebCredentials().Ask("https://l:443", "docs", 0);
+        dialogs.Expect("The password for https://l:443 could not be kept*");
+        WebCredentials().Accepted("https://l:443", "docs", *answer);
+        QVERIFY(dialogs.AllCame());
+    }
+
+    void aTickIsForItsOwnAnswerAlone() {
+        FakeKeyRing keyring;
+        TestDialogs dialogs;
+        CredentialSource& source = WebCredentials();
+        dialogs.ExpectPassword(Dialogs::Password{"ann", "wrong", true});
+        QVERIFY(source.Ask("https://r:443", "docs", 0));
+        dialogs.ExpectPassword(std::nullopt);
+        QVERIFY(!source.Ask("https://r:443", "docs", 1));
+        source.Accepted("https://r:443", "docs", Credentials{"bob", "other"});  // not asked for
+        QVERIFY(keyring.secrets.isEmpty());
+        QCoreApplication::processEvents();  // something else is done
+        dialogs.ExpectPassword(Dialogs::Password{"ann", "secret", false});
+        const auto answer = source.Ask("https://r:443", "docs", 0);
+        source.Accepted("https://r:443", "docs", *answer);
+        QVERIFY(keyring.secrets.isEmpty());
+    }
+
+    void aSecretThatIsNoneOfOursLeadsToAsking() {
+        FakeKeyRing keyring;
+        TestDialogs dialogs;
+        keyring.secrets["https://m:443 docs"] = "no line break";
+        dialogs.ExpectPassword(Dialogs::Password{"ann", "secret", false});
+        const auto answer = WebCredentials().Ask("https://m:443", "docs", 0);
+        QVERIFY(answer);
+        QCOMPARE(answer->password, QString("secret"));
+        QVERIFY(dialogs.AllCame());
     }
 
     void withoutTheTickNothingIsKept() {

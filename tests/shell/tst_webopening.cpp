@@ -14,6 +14,7 @@
 #include "services/scratch.h"
 #include "services/webdocument.h"
 #include "shell/openurlfrm.h"
+#include "shell/twips.h"
 #include "tests/shell/shellbench.h"
 #include "tests/support/fakeoutside.h"
 #include "tests/support/fakewebclient.h"
@@ -76,15 +77,17 @@ struct WebBench : ShellBench {
 };
 
 struct PickerBench {
-    PickerBench() {
+    explicit PickerBench(bool withTypes = true) {
         LoadResources();
         web.server.folders = {kFolder, kFolder + "sub 10/", kFolder + "sub 9/"};
         web.server.files = {{kFolder + "b.tfmasm", "x"}, {kFolder + "a.tfmprt", "x"},
                             {kFolder + "c.tfmdrw", "x"}, {kFolder + "n.txt", "x"},
                             {kFolder + "old.prt", "x"},  {kFolder + "sub 9/d.tfmprt", "x"}};
         for (const char* type :
-             {"Tessaforma files(*.tfmasm, *.tfmprt, *.tfmdrw)", "Part files(*.tfmprt, *.prt)"})
-            picker.AddFileType(QLatin1String(type));
+             {"Tessaforma files(*.tfmasm, *.tfmprt, *.tfmdrw)", "Part files(*.tfmprt, *.prt)"}) {
+            if (withTypes)
+                picker.AddFileType(QLatin1String(type));
+        }
         picker.show();
     }
     void Type(const QString& address) {
@@ -99,6 +102,11 @@ struct PickerBench {
             names.append(list->item(i)->text());
         return names;
     }
+    bool Activate() {
+        picker.activateWindow();
+        return QTest::qWaitForWindowActive(&picker);
+    }
+    QListWidget* List() { return picker.findChild<QListWidget*>(); }
     QLabel* Error() { return picker.findChild<QLabel*>(QStringLiteral("error")); }
     QPushButton* Button(const char* name) {
         return picker.findChild<QPushButton*>(QLatin1String(name));
@@ -123,6 +131,7 @@ private Q_SLOTS:
     void aPickedDocumentIsOpenedWithItsTree();
     void cancellingLeavesTheDocumentAsItWas();
     void whatIsNoDocumentIsIgnored();
+    void aDrawingOfTheFormerKindIsIgnored();
     void withoutAPickerNothingHappens();
     void theFormTellsThePickerItsFileTypes();
     void aWebDocumentLeavesTheFileOperations();
@@ -136,7 +145,20 @@ private Q_SLOTS:
     void aDocumentsAddressOpensIt();
     void escapeCancels();
     void anErrorIsToldInWords();
+    void anErrorKeepsTheListing();
+    void whatIsNoWebAddressIsRefusedInWords_data();
+    void whatIsNoWebAddressIsRefusedInWords();
+    void aPasswordInTheAddressIsRefusedAndNotRemembered_data();
+    void aPasswordInTheAddressIsRefusedAndNotRemembered();
+    void aServersNameAloneIsAnAddress();
+    void withoutFileTypesAllDocumentsAreListed();
+    void altUpGoesToTheFolderAbove();
+    void enterOpensWhatIsMarkedInTheList();
     void theLastAddressesAreRemembered();
+    void notMoreThanTenAddressesAreRemembered();
+    void theFormStaysOpenWhileThePickerIsFilled();
+    void theFormGivesWhatThePickerOpened();
+    void escapeLeavesTheFormWithNothing();
 };
 
 void TestWebOpening::aPickedDocumentIsOpenedWithItsTree() {
@@ -168,6 +190,15 @@ void TestWebOpening::whatIsNoDocumentIsIgnored() {
     WebBench bench;
     bench.Open();
     bench.answer = kFolder + "notes.txt";
+    bench.shell.SetCurrentFunction("OPENURL");
+    QCOMPARE(bench.shell.m_partfilename, bench.top);
+    QVERIFY(!gWebDocument);
+}
+
+void TestWebOpening::aDrawingOfTheFormerKindIsIgnored() {
+    WebBench bench;
+    bench.Open();
+    bench.answer = kFolder + "old.drw";
     bench.shell.SetCurrentFunction("OPENURL");
     QCOMPARE(bench.shell.m_partfilename, bench.top);
     QVERIFY(!gWebDocument);
@@ -299,6 +330,101 @@ void TestWebOpening::anErrorIsToldInWords() {
     QVERIFY(bench.Error()->isHidden());
 }
 
+void TestWebOpening::anErrorKeepsTheListing() {
+    PickerBench bench;
+    bench.Type(kFolder);
+    const QStringList listed = bench.Listed();
+    bench.Type("http://s/nowhere/");
+    QCOMPARE(bench.Listed(), listed);
+    bench.Type("ftp://s/w/");
+    QCOMPARE(bench.Listed(), listed);
+    QVERIFY(bench.Button("up")->isEnabled());
+}
+
+void TestWebOpening::whatIsNoWebAddressIsRefusedInWords_data() {
+    QTest::addColumn<QString>("typed");
+    for (const char* typed : {"", "  ", "https://", "ftp://s/w/", "file:///w/a.tfmprt", "/w/",
+                              "https:///a.tfmprt", "https://s:port/"})
+        QTest::newRow(*typed ? typed : "nothing") << QString(typed);
+}
+
+void TestWebOpening::whatIsNoWebAddressIsRefusedInWords() {
+    QFETCH(QString, typed);
+    PickerBench bench;
+    QSignalSpy events(&bench.picker, &URLFileOpen::Event);
+    bench.Type(typed);
+    QVERIFY(!bench.Error()->isHidden());
+    QVERIFY(bench.Error()->text().startsWith("This is no address of a web folder."));
+    QVERIFY(bench.web.server.calls.isEmpty());
+    QCOMPARE(events.count(), 0);
+}
+
+void TestWebOpening::aPasswordInTheAddressIsRefusedAndNotRemembered_data() {
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("folder") << "http://ann:secret@s/w/";
+    QTest::newRow("document") << "http://ann:secret@s/w/a.tfmprt";
+    QTest::newRow("no scheme") << "ann:secret@s/w/";
+    QTest::newRow("unencoded") << "http://ann:se/secret@s/w/";
+}
+
+void TestWebOpening::aPasswordInTheAddressIsRefusedAndNotRemembered() {
+    QFETCH(QString, typed);
+    PickerBench bench;
+    QSignalSpy events(&bench.picker, &URLFileOpen::Event);
+    bench.Type(typed);
+    QVERIFY(!bench.Error()->isHidden());
+    QVERIFY(!bench.Error()->text().contains("secret"));
+    QCOMPARE(events.count(), 0);
+    QVERIFY(bench.web.server.calls.isEmpty());
+    QVERIFY(bench.picker.Url().isEmpty());
+    const URLFileOpen other;
+    const auto* addresses = other.findChild<QComboBox*>("address");
+    for (int i = 0; i < addresses->count(); ++i)
+        QVERIFY(!addresses->itemText(i).contains("secret"));
+}
+
+void TestWebOpening::aServersNameAloneIsAnAddress() {
+    PickerBench bench;
+    bench.web.server.folders.append("https://s/");
+    bench.Type("s");
+    QVERIFY(bench.Error()->isHidden());
+    QCOMPARE(bench.web.server.calls, QStringList("list https://s/"));
+}
+
+void TestWebOpening::withoutFileTypesAllDocumentsAreListed() {
+    PickerBench bench(false);
+    bench.Type(kFolder);
+    QCOMPARE(bench.Listed(),
+             QStringList({"sub 9", "sub 10", "a.tfmprt", "b.tfmasm", "c.tfmdrw", "old.prt"}));
+}
+
+void TestWebOpening::altUpGoesToTheFolderAbove() {
+    PickerBench bench;
+    QVERIFY(bench.Activate());
+    bench.web.server.folders.append("http://s/");
+    bench.Type(kFolder + "sub 9/");
+    QTest::keyClick(bench.List(), Qt::Key_Up, Qt::AltModifier);
+    QCOMPARE(bench.Listed().size(), 5);
+    bench.List()->setCurrentRow(3);  // there is a row above it
+    QTest::keyClick(bench.List(), Qt::Key_Up, Qt::AltModifier);
+    QCOMPARE(bench.Listed(), QStringList("w"));
+    bench.web.server.calls.clear();
+    QTest::keyClick(bench.List(), Qt::Key_Up, Qt::AltModifier);  // nothing is above a server
+    QVERIFY(bench.web.server.calls.isEmpty());
+}
+
+void TestWebOpening::enterOpensWhatIsMarkedInTheList() {
+    PickerBench bench;
+    bench.Type(kFolder);
+    QSignalSpy events(&bench.picker, &URLFileOpen::Event);
+    QTest::keyClick(bench.List(), Qt::Key_Return);
+    QCOMPARE(bench.Listed(), QStringList("d.tfmprt"));
+    QCOMPARE(events.count(), 0);
+    QTest::keyClick(bench.List(), Qt::Key_Enter, Qt::KeypadModifier);
+    QCOMPARE(events.count(), 1);
+    QCOMPARE(bench.picker.Url(), kFolder + "sub 9/d.tfmprt");
+}
+
 void TestWebOpening::theLastAddressesAreRemembered() {
     PickerBench bench;
     bench.Type(kFolder);
@@ -309,6 +435,85 @@ void TestWebOpening::theLastAddressesAreRemembered() {
     QCOMPARE(addresses->itemText(0), kFolder);
     QCOMPARE(addresses->itemText(1), kFolder + "sub 9/");
     QVERIFY(addresses->itemText(2) != kFolder);
+}
+
+void TestWebOpening::notMoreThanTenAddressesAreRemembered() {
+    PickerBench bench;
+    for (int i = 0; i < 12; ++i) {
+        const QString folder = QStringLiteral("http://s/w%1/").arg(i);
+        bench.web.server.folders.append(folder);
+        bench.Type(folder);
+    }
+    const URLFileOpen other;
+    const auto* addresses = other.findChild<QComboBox*>("address");
+    QCOMPARE(addresses->count(), 10);
+    QCOMPARE(addresses->itemText(0), QString("http://s/w11/"));
+    QCOMPARE(addresses->itemText(9), QString("http://s/w2/"));
+}
+
+namespace {
+
+// The form with the program's own picker in it.
+struct FormBench {
+    FormBench() {
+        LoadResources();
+        web.server.folders = {kFolder};
+        web.server.files = {{kFolder + "a.tfmprt", "x"}, {kFolder + "old.drw", "x"}};
+        outside.make = [this](const QString&) {
+            auto made = std::make_unique<URLFileOpen>();
+            QObject::connect(made.get(), &URLFileOpen::Event,
+                             [this](const QString& name) { events.append(name); });
+            return made;
+        };
+        form = std::make_unique<OpenURLFrm>();
+        form->show();
+        picker = form->findChild<URLFileOpen*>(QStringLiteral("URLFileOpen"));
+    }
+    void Type(const QString& address) {
+        auto* line = picker->findChild<QComboBox*>(QStringLiteral("address"));
+        line->setEditText(address);
+        QTest::keyClick(line->lineEdit(), Qt::Key_Return);
+    }
+
+    TestDialogs dialogs;
+    FakeWeb web;
+    FakeOutside outside;
+    QStringList events;
+    std::unique_ptr<OpenURLFrm> form;
+    URLFileOpen* picker = nullptr;
+};
+
+}  // namespace
+
+void TestWebOpening::theFormStaysOpenWhileThePickerIsFilled() {
+    const FormBench bench;
+    QVERIFY(bench.picker);
+    QVERIFY(bench.events.contains("FileTypeChangeEvent"));
+    QVERIFY(bench.form->isVisible());
+    QCOMPARE(bench.picker->findChild<QComboBox*>("types")->count(), 4);
+    QCOMPARE(bench.picker->pos(), QPoint(0, 0));
+    QVERIFY(bench.picker->width() >= TwipsToPixels(6555));
+    QVERIFY(bench.picker->height() >= TwipsToPixels(4155));
+}
+
+void TestWebOpening::theFormGivesWhatThePickerOpened() {
+    FormBench bench;
+    bench.Type(kFolder);
+    QVERIFY(bench.form->isVisible());
+    bench.picker->findChild<QComboBox*>("types")->setCurrentIndex(1);
+    QVERIFY(bench.form->isVisible());
+    QTest::keyClick(bench.picker->findChild<QListWidget*>(), Qt::Key_Return);
+    QVERIFY(!bench.form->isVisible());
+    QCOMPARE(bench.form->Url(), kFolder + "a.tfmprt");
+}
+
+void TestWebOpening::escapeLeavesTheFormWithNothing() {
+    FormBench bench;
+    bench.Type(kFolder);
+    QTest::keyClick(bench.picker->findChild<QListWidget*>(), Qt::Key_Escape);
+    QVERIFY(!bench.form->isVisible());
+    QCOMPARE(bench.form->Url(), QString());
+    QCOMPARE(bench.events.last(), QString("CancelEvent"));
 }
 
 DOCBENCH_TEST_MAIN(QApplication, TestWebOpening)
