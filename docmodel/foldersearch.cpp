@@ -6,6 +6,7 @@
 #include <cerrno>
 
 #include "docmodel/documentreferences.h"
+#include "docmodel/foldermemory.h"
 #include "docmodel/packageerror.h"
 #include "docmodel/referencetarget.h"
 #include "services/paths.h"
@@ -35,11 +36,11 @@ QString FolderPrefix(const QString& pattern) {
 class FolderSearch {
 public:
     FolderSearch(const ReferenceQuery& query, std::set<FolderIdentity>& known);
-    FolderFindings Run();
+    FolderFindings Run(ReferenceIndex& index);
 
 private:
     void Remember();
-    void ReadDocument(const ListedDocument& document);
+    void Read(const ListedDocument& document, FolderMemory& memory);
     QString PathOf(const std::string& name) const {
         return prefix_ + QString::fromUtf8(name.data(), qsizetype(name.size()));
     }
@@ -69,23 +70,27 @@ void FolderSearch::Remember() {
     known_.insert({status.st_dev, status.st_ino});
 }
 
-FolderFindings FolderSearch::Run() {
+FolderFindings FolderSearch::Run(ReferenceIndex& index) {
     Remember();
-    const FolderListing listing =
-        ListFolder(folder_, prefix_, docbench::FileNameOf(query_.pattern), known_);
+    const QString pattern = docbench::FileNameOf(query_.pattern);
+    const FolderListing listing = ListFolder(folder_, prefix_, pattern, known_);
     findings_.counts = {int(listing.documents.size()) + listing.unnamable, listing.unnamable};
+    FolderMemory memory(index, folder_, holderFolder_, IsEveryName(pattern));
     for (const ListedDocument& document : listing.documents)
-        ReadDocument(document);
+        if (!memory.IsWithout(document, target_))
+            Read(document, memory);
+    memory.Save();
     for (const std::string& subfolder : listing.subfolders)
         findings_.subfolders.append(PathOf(subfolder));
     return std::move(findings_);
 }
 
-void FolderSearch::ReadDocument(const ListedDocument& document) {
+void FolderSearch::Read(const ListedDocument& document, FolderMemory& memory) {
     try {
         const DocumentReferences references(folder_.Get(), document.name.c_str(),
                                             PathOf(document.name), holderFolder_);
         references.Find(target_, query_.mask, findings_.rows);
+        memory.Learn(document, references);
     } catch (const DocumentError& error) {
         ++findings_.counts.unread;
         qCDebug(searchLog).noquote() << error.Description();
@@ -94,8 +99,9 @@ void FolderSearch::ReadDocument(const ListedDocument& document) {
 
 }  // namespace
 
-FolderFindings SearchFolder(const ReferenceQuery& query, std::set<FolderIdentity>& known) {
-    return FolderSearch(query, known).Run();
+FolderFindings SearchFolder(const ReferenceQuery& query, std::set<FolderIdentity>& known,
+                            ReferenceIndex& index) {
+    return FolderSearch(query, known).Run(index);
 }
 
 }  // namespace docmodel
