@@ -4,14 +4,14 @@
 set -uo pipefail
 cd "$(dirname "$0")/.."
 
-./setup.sh || exit
+./setup.sh tests || exit
 cmake --preset release && cmake --build --preset release --target benchmarks || exit
 export QT_QPA_PLATFORM=offscreen
 bin=build/release/bin
 sample=$("$bin/docbench-samples" out/sample-library | tail -n 1)
 
 result=0
-for benchmark in readrows save loadtree preview "startup $sample"; do
+for benchmark in readrows save loadtree preview whereused "startup $sample"; do
     echo "== $benchmark"
     # shellcheck disable=SC2086
     "$bin"/bench-$benchmark 2>/dev/null || result=1

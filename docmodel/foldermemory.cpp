@@ -21,6 +21,10 @@ int CompareBytes(QByteArrayView one, QByteArrayView other) {
     return bytes.compare(std::string_view(other.data(), size_t(other.size())));
 }
 
+QByteArrayView NameOf(const ListedDocument& document) {
+    return {document.name.data(), qsizetype(document.name.size())};
+}
+
 }  // namespace
 
 FolderMemory::FolderMemory(ReferenceIndex& index, const FileDescriptor& folder, const QString& path,
@@ -62,42 +66,51 @@ void FolderMemory::Skip(const IndexEntry& entry) {
     if (isWhole_)
         isChanged_ = true;
     else
-        packer_.Add(entry);
+        kept_.push_back(entry);
 }
 
 // A link is read at any time: what is known of disks is known of the folder's own.
-bool FolderMemory::IsWithout(const ListedDocument& document, const ReferenceTarget& target) {
-    isKept_ = false;
+FolderMemory::Knowledge FolderMemory::Ask(const ListedDocument& document,
+                                          const ReferenceTarget& target) {
     if (!grain_ || document.isLink)
-        return false;
-    const std::optional<IndexEntry> entry =
-        Take(QByteArrayView(document.name.data(), qsizetype(document.name.size())));
+        return Knowledge::None;
+    const std::optional<IndexEntry> entry = Take(NameOf(document));
     if (!entry)
-        return false;
+        return Knowledge::None;
     struct stat status;
-    isKept_ = fstatat(folder_, document.name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0 &&
-              StateOf(status) == entry->state;
-    if (isKept_)
-        packer_.Add(*entry);
-    else
+    if (fstatat(folder_, document.name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0 ||
+        StateOf(status) != entry->state) {
         isChanged_ = true;
-    return isKept_ && !entry->HoldsAny(target.StemHashes());
+        return Knowledge::None;
+    }
+    kept_.push_back(*entry);
+    return entry->HoldsAny(target.StemHashes()) ? Knowledge::Same : Knowledge::Without;
 }
 
 // What could be changed again without looking changed is not kept in mind: it is read each time.
-void FolderMemory::Learn(const ListedDocument& document, const DocumentReferences& references) {
-    if (!grain_ || isKept_ || document.isLink || !IsSettled(references.State(), readAt_, *grain_))
+void FolderMemory::Learn(const ListedDocument& document, const FileState& state,
+                         std::vector<quint32> stemHashes) {
+    if (!grain_ || document.isLink || !IsSettled(state, readAt_, *grain_))
         return;
-    packer_.Add(QByteArrayView(document.name.data(), qsizetype(document.name.size())),
-                references.State(), references.StemHashes());
+    learned_.push_back({NameOf(document), state, std::move(stemHashes)});
     isChanged_ = true;
 }
 
 void FolderMemory::Save() {
     for (; next_; Advance())
         Skip(*next_);
-    if (isChanged_)
-        index_.Store(path_, packer_.Packed(path_));
+    if (!isChanged_)
+        return;
+    IndexPacker packer;
+    auto kept = kept_.begin();
+    for (const Learned& learned : learned_) {
+        for (; kept != kept_.end() && CompareBytes(kept->name, learned.name) < 0; ++kept)
+            packer.Add(*kept);
+        packer.Add(learned.name, learned.state, learned.stemHashes);
+    }
+    for (; kept != kept_.end(); ++kept)
+        packer.Add(*kept);
+    index_.Store(path_, packer.Packed(path_));
 }
 
 }  // namespace docmodel

@@ -14,7 +14,7 @@
 
 namespace docmodel {
 
-// Documents must be asked for in the order of the listing.
+// Documents must be asked for in the order of the listing, which must outlive the memory.
 class FolderMemory {
 public:
     // `path` is the folder's, absolute and clean. `isWhole`: the search asks for all documents of
@@ -22,13 +22,25 @@ public:
     FolderMemory(ReferenceIndex& index, const FileDescriptor& folder, const QString& path,
                  bool isWhole);
 
-    // True: the document is as it was when it was read last, and no row of it leads to the target.
-    bool IsWithout(const ListedDocument& document, const ReferenceTarget& target);
-    // To be called for a document that was asked for and then was read.
-    void Learn(const ListedDocument& document, const DocumentReferences& references);
+    enum class Knowledge {
+        None,     // the document must be read
+        Without,  // no row of it leads to the target; it counts as read
+        Same      // a row may lead to the target; what is known of it otherwise still holds
+    };
+    Knowledge Ask(const ListedDocument& document, const ReferenceTarget& target);
+
+    // Takes in a document that was read because there was no knowledge of it. Documents come in the
+    // order of the listing here as well.
+    void Learn(const ListedDocument& document, const FileState& state,
+               std::vector<quint32> stemHashes);
     void Save();  // writes what has changed, if anything
 
 private:
+    struct Learned {
+        QByteArrayView name;
+        FileState state;
+        std::vector<quint32> stemHashes;
+    };
     void Advance();
     std::optional<IndexEntry> Take(QByteArrayView name);  // the entry of that name, if there is one
     void Skip(const IndexEntry& entry);                   // one that was not asked for
@@ -42,8 +54,8 @@ private:
     const QByteArray packed_;
     IndexReader reader_;
     std::optional<IndexEntry> next_;  // the first entry that was not asked for yet
-    IndexPacker packer_;
-    bool isKept_ = false;  // the entry of the document that was asked for last still holds
+    std::vector<IndexEntry> kept_;
+    std::vector<Learned> learned_;
     bool isChanged_ = false;
 };
 

@@ -8,6 +8,7 @@
 #include "docmodel/documentreferences.h"
 #include "docmodel/foldermemory.h"
 #include "docmodel/packageerror.h"
+#include "docmodel/parallel.h"
 #include "docmodel/referencetarget.h"
 #include "services/paths.h"
 
@@ -33,6 +34,16 @@ QString FolderPrefix(const QString& pattern) {
     return folder + u'/';
 }
 
+// A document that must be read, and what is kept of it then.
+struct Candidate {
+    const ListedDocument* document;
+    bool isNew;  // the index does not know it
+    bool isRead = false;
+    QList<docbench::FoundReference> rows = {};
+    FileState state = {};
+    std::vector<quint32> stemHashes = {};
+};
+
 class FolderSearch {
 public:
     FolderSearch(const ReferenceQuery& query, std::set<FolderIdentity>& known);
@@ -40,7 +51,8 @@ public:
 
 private:
     void Remember();
-    void Read(const ListedDocument& document, FolderMemory& memory);
+    void Search(const FolderListing& listing, FolderMemory& memory);
+    void Read(Candidate& candidate) const;
     QString PathOf(const std::string& name) const {
         return prefix_ + QString::fromUtf8(name.data(), qsizetype(name.size()));
     }
@@ -76,23 +88,43 @@ FolderFindings FolderSearch::Run(ReferenceIndex& index) {
     const FolderListing listing = ListFolder(folder_, prefix_, pattern, known_);
     findings_.counts = {int(listing.documents.size()) + listing.unnamable, listing.unnamable};
     FolderMemory memory(index, folder_, holderFolder_, IsEveryName(pattern));
-    for (const ListedDocument& document : listing.documents)
-        if (!memory.IsWithout(document, target_))
-            Read(document, memory);
+    Search(listing, memory);
     memory.Save();
     for (const std::string& subfolder : listing.subfolders)
         findings_.subfolders.append(PathOf(subfolder));
     return std::move(findings_);
 }
 
-void FolderSearch::Read(const ListedDocument& document, FolderMemory& memory) {
+// Reading waits for the disk most of the time, and documents don't depend on each other.
+void FolderSearch::Search(const FolderListing& listing, FolderMemory& memory) {
+    std::vector<Candidate> candidates;
+    for (const ListedDocument& document : listing.documents) {
+        const FolderMemory::Knowledge knowledge = memory.Ask(document, target_);
+        if (knowledge != FolderMemory::Knowledge::Without)
+            candidates.push_back({&document, knowledge == FolderMemory::Knowledge::None});
+    }
+    InParallel(candidates.size(), [&](size_t i) { Read(candidates[i]); });
+    for (Candidate& candidate : candidates) {
+        findings_.rows.append(candidate.rows);
+        if (!candidate.isRead)
+            ++findings_.counts.unread;
+        else if (candidate.isNew)
+            memory.Learn(*candidate.document, candidate.state, std::move(candidate.stemHashes));
+    }
+}
+
+// Runs on several threads at once.
+void FolderSearch::Read(Candidate& candidate) const {
+    const std::string& name = candidate.document->name;
     try {
-        const DocumentReferences references(folder_.Get(), document.name.c_str(),
-                                            PathOf(document.name), holderFolder_);
-        references.Find(target_, query_.mask, findings_.rows);
-        memory.Learn(document, references);
+        const DocumentReferences references(folder_.Get(), name.c_str(), PathOf(name),
+                                            holderFolder_);
+        references.Find(target_, query_.mask, candidate.rows);
+        candidate.state = references.State();
+        if (candidate.isNew)
+            candidate.stemHashes = references.StemHashes();
+        candidate.isRead = true;
     } catch (const DocumentError& error) {
-        ++findings_.counts.unread;
         qCDebug(searchLog).noquote() << error.Description();
     }
 }

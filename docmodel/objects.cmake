@@ -19,6 +19,7 @@ target_sources(docmodel_core PRIVATE
     indexentry.cpp
     languagesettingsobject.cpp
     opc.cpp
+    parallel.cpp
     picture.cpp
     previewextractorobject.cpp
     propertyset.cpp
