@@ -6,13 +6,13 @@ set -euo pipefail
 packages=(
     g++ cmake ninja-build ccache pkg-config
     qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6svg6-dev libgl1-mesa-dev
-    libqt6svg6 libzip-dev zlib1g-dev libpugixml-dev libneon27-gnutls-dev qtkeychain-qt6-dev
-    libxlsxwriter-dev
+    libqt6svg6 libqt6sql6-sqlite libzip-dev zlib1g-dev libpugixml-dev libneon27-gnutls-dev
+    qtkeychain-qt6-dev libxlsxwriter-dev
     libbenchmark-dev
     fonts-dejavu-core
 )
 if [ "${1:-}" = tests ]; then
-    packages+=(python3 unzip zip dbus dbus-daemon attr apache2-bin openssl curl)
+    packages+=(python3 unzip zip dbus dbus-daemon attr apache2-bin openssl curl ugrep)
 fi
 
 missing=()

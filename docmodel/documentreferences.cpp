@@ -1,5 +1,7 @@
 #include "docmodel/documentreferences.h"
 
+#include <algorithm>
+
 #include "docmodel/documentcontent.h"
 #include "services/paths.h"
 
@@ -25,10 +27,28 @@ DocumentReferences::DocumentReferences(int folder, const char* file, const QStri
                                        const QString& holderFolder)
     : path_(path), holderFolder_(holderFolder) {
     const Package package = Package::OpenAt(folder, file, path);
+    state_ = StateOf(package.Status());
     if (const std::optional<DocumentPart> tables = ReadTables(package)) {
         components_ = tables->Components();
         externals_ = tables->Externals();
     }
+}
+
+std::vector<quint32> DocumentReferences::StemHashes() const {
+    std::vector<quint32> hashes;
+    const auto add = [&](const auto& table) {
+        for (const auto& row : table) {
+            const PathChoice choice = PossiblePaths(row.target, holderFolder_);
+            hashes.push_back(StemHash(choice.usual));
+            if (!choice.beside.isEmpty())
+                hashes.push_back(StemHash(choice.beside));
+        }
+    };
+    add(components_);
+    add(externals_);
+    std::sort(hashes.begin(), hashes.end());
+    hashes.erase(std::unique(hashes.begin(), hashes.end()), hashes.end());
+    return hashes;
 }
 
 // Whether a row leads to the target is mostly told by its text alone; the disk is asked only when

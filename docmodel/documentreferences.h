@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "docmodel/documentpart.h"
+#include "docmodel/filestate.h"
 #include "docmodel/referencetarget.h"
 #include "services/docaccess.h"
 
@@ -23,11 +24,17 @@ public:
     // Appends the rows that lead to the target and are of a kind in `mask`.
     void Find(const ReferenceTarget& target, int mask, QList<docbench::FoundReference>& to) const;
 
+    // The document's file as it was when it was read.
+    const FileState& State() const { return state_; }
+    // Of every path that one of the rows may lead to, each once.
+    std::vector<quint32> StemHashes() const;
+
 private:
     template <typename Row, typename IsWanted>
     void FindIn(const QList<Row>& table, bool inContext, const ReferenceTarget& target,
                 IsWanted isWanted, QList<docbench::FoundReference>& to) const;
 
+    FileState state_;
     QString path_;
     QString holderFolder_;
     QList<StoredComponent> components_;

@@ -66,10 +66,7 @@ EntryKind KindOf(int folder, const dirent& entry) {
 class Lister {
 public:
     Lister(int folder, const QString& pattern, const std::set<FolderIdentity>& known)
-        : folder_(folder),
-          pattern_(pattern),
-          takesEvery_(docbench::MatchesPattern(QString(), pattern)),
-          known_(known) {}
+        : folder_(folder), pattern_(pattern), takesEvery_(IsEveryName(pattern)), known_(known) {}
 
     void Take(const dirent& entry) {
         const std::string_view name(entry.d_name);
@@ -106,7 +103,7 @@ private:
 
     const int folder_;
     const QString& pattern_;
-    const bool takesEvery_;  // what fits the empty name fits every one
+    const bool takesEvery_;
     const std::set<FolderIdentity>& known_;
     FolderListing listing_;
 };
@@ -116,6 +113,11 @@ struct CloseFolder {
 };
 
 }  // namespace
+
+// What the empty name fits can only be made of what stands for any text.
+bool IsEveryName(const QString& pattern) {
+    return !pattern.isEmpty() && docbench::MatchesPattern(QStringView(), pattern);
+}
 
 FileDescriptor OpenFolder(const QString& path) {
     FileDescriptor folder(

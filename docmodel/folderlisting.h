@@ -28,6 +28,9 @@ struct FolderListing {
     int unnamable = 0;
 };
 
+// Whether every name fits the pattern.
+bool IsEveryName(const QString& pattern);
+
 // Opens a folder for listing. Raises DocumentError, which names it.
 FileDescriptor OpenFolder(const QString& path);
 

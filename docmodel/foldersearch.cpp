@@ -6,7 +6,9 @@
 #include <cerrno>
 
 #include "docmodel/documentreferences.h"
+#include "docmodel/foldermemory.h"
 #include "docmodel/packageerror.h"
+#include "docmodel/parallel.h"
 #include "docmodel/referencetarget.h"
 #include "services/paths.h"
 
@@ -32,14 +34,25 @@ QString FolderPrefix(const QString& pattern) {
     return folder + u'/';
 }
 
+// A document that must be read, and what is kept of it then.
+struct Candidate {
+    const ListedDocument* document;
+    bool isNew;  // the index does not know it
+    bool isRead = false;
+    QList<docbench::FoundReference> rows = {};
+    FileState state = {};
+    std::vector<quint32> stemHashes = {};
+};
+
 class FolderSearch {
 public:
     FolderSearch(const ReferenceQuery& query, std::set<FolderIdentity>& known);
-    FolderFindings Run();
+    FolderFindings Run(ReferenceIndex& index);
 
 private:
     void Remember();
-    void ReadDocument(const ListedDocument& document);
+    void Search(const FolderListing& listing, FolderMemory& memory);
+    void Read(Candidate& candidate) const;
     QString PathOf(const std::string& name) const {
         return prefix_ + QString::fromUtf8(name.data(), qsizetype(name.size()));
     }
@@ -69,33 +82,58 @@ void FolderSearch::Remember() {
     known_.insert({status.st_dev, status.st_ino});
 }
 
-FolderFindings FolderSearch::Run() {
+FolderFindings FolderSearch::Run(ReferenceIndex& index) {
     Remember();
-    const FolderListing listing =
-        ListFolder(folder_, prefix_, docbench::FileNameOf(query_.pattern), known_);
+    const QString pattern = docbench::FileNameOf(query_.pattern);
+    const FolderListing listing = ListFolder(folder_, prefix_, pattern, known_);
     findings_.counts = {int(listing.documents.size()) + listing.unnamable, listing.unnamable};
-    for (const ListedDocument& document : listing.documents)
-        ReadDocument(document);
+    FolderMemory memory(index, folder_, holderFolder_, IsEveryName(pattern));
+    Search(listing, memory);
+    memory.Save();
     for (const std::string& subfolder : listing.subfolders)
         findings_.subfolders.append(PathOf(subfolder));
     return std::move(findings_);
 }
 
-void FolderSearch::ReadDocument(const ListedDocument& document) {
+// Reading waits for the disk most of the time, and documents don't depend on each other.
+void FolderSearch::Search(const FolderListing& listing, FolderMemory& memory) {
+    std::vector<Candidate> candidates;
+    for (const ListedDocument& document : listing.documents) {
+        const FolderMemory::Knowledge knowledge = memory.Ask(document, target_);
+        if (knowledge != FolderMemory::Knowledge::Without)
+            candidates.push_back({&document, knowledge == FolderMemory::Knowledge::None});
+    }
+    InParallel(candidates.size(), [&](size_t i) { Read(candidates[i]); });
+    for (Candidate& candidate : candidates) {
+        findings_.rows.append(candidate.rows);
+        if (!candidate.isRead)
+            ++findings_.counts.unread;
+        else if (candidate.isNew)
+            memory.Learn(*candidate.document, candidate.state, std::move(candidate.stemHashes));
+    }
+}
+
+// Runs on several threads at once.
+void FolderSearch::Read(Candidate& candidate) const {
+    const std::string& name = candidate.document->name;
     try {
-        const DocumentReferences references(folder_.Get(), document.name.c_str(),
-                                            PathOf(document.name), holderFolder_);
-        references.Find(target_, query_.mask, findings_.rows);
+        const DocumentReferences references(folder_.Get(), name.c_str(), PathOf(name),
+                                            holderFolder_);
+        references.Find(target_, query_.mask, candidate.rows);
+        candidate.state = references.State();
+        if (candidate.isNew)
+            candidate.stemHashes = references.StemHashes();
+        candidate.isRead = true;
     } catch (const DocumentError& error) {
-        ++findings_.counts.unread;
         qCDebug(searchLog).noquote() << error.Description();
     }
 }
 
 }  // namespace
 
-FolderFindings SearchFolder(const ReferenceQuery& query, std::set<FolderIdentity>& known) {
-    return FolderSearch(query, known).Run();
+FolderFindings SearchFolder(const ReferenceQuery& query, std::set<FolderIdentity>& known,
+                            ReferenceIndex& index) {
+    return FolderSearch(query, known).Run(index);
 }
 
 }  // namespace docmodel

@@ -6,6 +6,7 @@
 #include <set>
 
 #include "docmodel/folderlisting.h"
+#include "docmodel/referenceindex.h"
 #include "services/docaccess.h"
 
 namespace docmodel {
@@ -17,7 +18,9 @@ struct FolderFindings {
 };
 
 // Searches the folder of the query's pattern and adds it to `known`; links to folders in there are
-// no subfolders. Raises DocumentError when the folder can't be listed.
-FolderFindings SearchFolder(const docbench::ReferenceQuery& query, std::set<FolderIdentity>& known);
+// no subfolders. The index spares time, and changes no answer. Raises DocumentError when the folder
+// can't be listed.
+FolderFindings SearchFolder(const docbench::ReferenceQuery& query, std::set<FolderIdentity>& known,
+                            ReferenceIndex& index);
 
 }  // namespace docmodel

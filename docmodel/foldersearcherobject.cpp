@@ -22,7 +22,9 @@ void RequireIndex(int index, qsizetype count, const char* what) {
 
 int FolderSearcherObject::FindReferences(const docbench::ReferenceQuery& query) {
     findings_ = {};
-    findings_ = SearchFolder(query, known_);
+    if (!index_)
+        index_.emplace();
+    findings_ = SearchFolder(query, known_, *index_);
     counts_.documents += findings_.counts.documents;
     counts_.unread += findings_.counts.unread;
     return int(findings_.rows.size());

@@ -11,15 +11,20 @@ target_sources(docmodel_core PRIVATE
     documentinfoobject.cpp
     documentpart.cpp
     documentreferences.cpp
+    filestate.cpp
     folderlisting.cpp
+    foldermemory.cpp
     foldersearch.cpp
     foldersearcherobject.cpp
+    indexentry.cpp
     languagesettingsobject.cpp
     opc.cpp
+    parallel.cpp
     picture.cpp
     previewextractorobject.cpp
     propertyset.cpp
     propertyvalue.cpp
+    referenceindex.cpp
     referencepath.cpp
     referencetarget.cpp
     webaddress.cpp

@@ -52,7 +52,7 @@ const PartKind kThumbnailKind = {
     "docProps/thumbnail.png", "image/png",
     "http://schemas.openxmlformats.org/package/2006/relationships/metadata/thumbnail",
     "http://purl.oclc.org/ooxml/officeDocument/relationships/metadata/thumbnail"};
-const PartKind kModelKind = {"model/geometry.bin", "application/octet-stream",
+const PartKind kModelKind = {kModelPart, "application/octet-stream",
                              "http://schemas.tessaforma.com/docmodel/2004/relationships/model",
                              nullptr};
 

@@ -18,6 +18,9 @@ using docbench::DocumentError;
 // The part that holds the tables; always the last one, right before the central directory.
 inline constexpr char kDocumentPart[] = "docmodel/document.xml";
 
+// The part that holds the model's geometry. It is packed already, so no package deflates it.
+inline constexpr char kModelPart[] = "model/geometry.bin";
+
 // A package as it stood when it was opened. Only the tail of the file is read at first: the end
 // record, the directory and, in the same read, the document part. The file is kept open for reading
 // further parts, so what is read belongs to one state even if the file is replaced meanwhile.

@@ -39,8 +39,9 @@ QByteArray Deflate(const QByteArray& bytes, qsizetype room) {
 }
 
 bool IsStored(const QByteArray& name, const QByteArray& bytes) {
-    return SameName(name, kDocumentPart) ? bytes.size() <= kMaxStoredDocumentPart
-                                         : IsCompressedPicture(bytes);
+    if (SameName(name, kDocumentPart))
+        return bytes.size() <= kMaxStoredDocumentPart;
+    return SameName(name, kModelPart) || IsCompressedPicture(bytes);
 }
 
 }  // namespace

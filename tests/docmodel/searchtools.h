@@ -12,6 +12,20 @@ namespace docmodel {
 using docbench::FolderSearcher;
 using docbench::ReferenceQuery;
 
+// While it lives, documents are written without waiting for the disk: no test here pulls the plug.
+class UnsyncedDisk : public FileOps {
+public:
+    UnsyncedDisk() : former_(gFileOps) { gFileOps = this; }
+    ~UnsyncedDisk() override { gFileOps = former_; }
+    UnsyncedDisk(const UnsyncedDisk&) = delete;
+    UnsyncedDisk& operator=(const UnsyncedDisk&) = delete;
+    int Sync(int) override { return 0; }
+    int SyncData(int) override { return 0; }
+
+private:
+    FileOps* former_;
+};
+
 inline void MakeDocument(const QString& path, const QStringList& components = {},
                          const QStringList& externals = {}) {
     DocumentBuilder document = DocumentBuilder::New(path, DocumentBuilder::IfThere::Replace);

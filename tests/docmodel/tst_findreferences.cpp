@@ -37,6 +37,7 @@ private:
         return RowTexts(*searcher);
     }
 
+    const UnsyncedDisk disk_;
     std::unique_ptr<QTemporaryDir> folder_;
 
 private Q_SLOTS:
