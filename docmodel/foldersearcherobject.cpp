@@ -24,7 +24,13 @@ int FolderSearcherObject::FindReferences(const docbench::ReferenceQuery& query) 
     findings_ = {};
     if (!index_)
         index_.emplace();
-    findings_ = SearchFolder(query, known_, *index_);
+    try {
+        findings_ = SearchFolder(query, known_, *index_);
+    } catch (const DocumentError& error) {
+        // Gone since it was listed, or not open to this user: the search goes on with the others.
+        qWarning().noquote() << error.Description();
+        findings_.counts.unread = 1;
+    }
     counts_.documents += findings_.counts.documents;
     counts_.unread += findings_.counts.unread;
     return int(findings_.rows.size());

@@ -92,8 +92,8 @@ QByteArray CheckedHost(const QString& text) {
     }
     // Not for plain names: it knows none with an underscore.
     const bool isPlain = text.toUtf8().size() == text.size();
-    const QByteArray ascii = (isPlain ? text.toLatin1() : QUrl::toAce(text)).toLower();
-    for (const char c : ascii)
+    QByteArray ascii = (isPlain ? text.toLatin1() : QUrl::toAce(text)).toLower();
+    for (const char c : std::as_const(ascii))
         if (!IsUnreserved(c))
             return {};
     return ascii;

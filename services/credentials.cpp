@@ -31,7 +31,7 @@ public:
         const QString entry = EntryOf(server, realm);
         if (attempt == 0 && gSeams.keyring) {
             if (const auto secret = gSeams.keyring->Read(entry)) {
-                if (const auto kept = Unpack(*secret))
+                if (auto kept = Unpack(*secret))
                     return kept;
             }
         }

@@ -184,7 +184,8 @@ public:
     // Fills the rows with the references of the folder's documents to the target, in the order of
     // the files' names, and the list of the folder's subfolders. Component rows count as plain
     // ones, external rows from part to part as mirrored, other external rows as in-context. A
-    // document that can't be read is counted and passed over; a folder that can't be read raises.
+    // document that can't be read is counted and passed over, and so is a folder that can't be
+    // listed.
     virtual int FindReferences(const ReferenceQuery& query) = 0;
     virtual void ClearResults() = 0;  // frees the rows; the subfolders stay for the walk to go on
     virtual int GetResultCount() = 0;
