@@ -31,7 +31,7 @@ constexpr char kForget[] = "DELETE FROM folders WHERE path = ?";
 
 // Readers and a writer don't wait for each other. Nothing is synced: after a power failure old or
 // broken rows are found out as such when they are read.
-constexpr const char* kPragmas[] = {"PRAGMA journal_mode = WAL", "PRAGMA synchronous = OFF",
+constexpr const char* kPragmas[] = {"PRAGMA synchronous = OFF", "PRAGMA journal_mode = WAL",
                                     "PRAGMA wal_autocheckpoint = 2000"};
 
 constexpr char kOptions[] = "QSQLITE_BUSY_TIMEOUT=100";
