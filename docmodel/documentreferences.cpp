@@ -23,22 +23,29 @@ bool IsPart(const QString& path) {
 
 }  // namespace
 
+template <typename Row>
+void DocumentReferences::Rows<Row>::Set(QList<Row> rows, const QString& holderFolder) {
+    stored = std::move(rows);
+    paths.reserve(size_t(stored.size()));
+    for (const Row& row : stored)
+        paths.push_back(PossiblePaths(row.target, holderFolder));
+}
+
 DocumentReferences::DocumentReferences(int folder, const char* file, const QString& path,
                                        const QString& holderFolder)
-    : path_(path), holderFolder_(holderFolder) {
+    : path_(path) {
     const Package package = Package::OpenAt(folder, file, path);
     state_ = StateOf(package.Status());
     if (const std::optional<DocumentPart> tables = ReadTables(package)) {
-        components_ = tables->Components();
-        externals_ = tables->Externals();
+        components_.Set(tables->Components(), holderFolder);
+        externals_.Set(tables->Externals(), holderFolder);
     }
 }
 
 std::vector<quint32> DocumentReferences::StemHashes() const {
     std::vector<quint32> hashes;
     const auto add = [&](const auto& table) {
-        for (const auto& row : table) {
-            const PathChoice choice = PossiblePaths(row.target, holderFolder_);
+        for (const PathChoice& choice : table.paths) {
             hashes.push_back(StemHash(choice.usual));
             if (!choice.beside.isEmpty())
                 hashes.push_back(StemHash(choice.beside));
@@ -54,12 +61,12 @@ std::vector<quint32> DocumentReferences::StemHashes() const {
 // Whether a row leads to the target is mostly told by its text alone; the disk is asked only when
 // one of its paths would.
 template <typename Row, typename IsWanted>
-void DocumentReferences::FindIn(const QList<Row>& table, bool inContext,
+void DocumentReferences::FindIn(const Rows<Row>& table, bool inContext,
                                 const ReferenceTarget& target, IsWanted isWanted,
                                 QList<FoundReference>& to) const {
     QByteArray stamp;
-    for (int index = 0; index < table.size(); ++index) {
-        const PathChoice choice = PossiblePaths(table[index].target, holderFolder_);
+    for (size_t index = 0; index < table.paths.size(); ++index) {
+        const PathChoice& choice = table.paths[index];
         if (!target.Matches(choice.usual) &&
             (choice.beside.isEmpty() || !target.Matches(choice.beside)))
             continue;
@@ -67,8 +74,8 @@ void DocumentReferences::FindIn(const QList<Row>& table, bool inContext,
         if (!target.Matches(reference) || !isWanted(reference))
             continue;
         if (stamp.isEmpty())
-            stamp = StampOf(table);
-        to.append({index, inContext, reference, path_, stamp});
+            stamp = StampOf(table.stored);
+        to.append({int(index), inContext, reference, path_, stamp});
     }
 }
 

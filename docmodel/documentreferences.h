@@ -30,15 +30,20 @@ public:
     std::vector<quint32> StemHashes() const;
 
 private:
+    template <typename Row>
+    struct Rows {
+        QList<Row> stored;
+        std::vector<PathChoice> paths;  // that they may lead to, one by one
+        void Set(QList<Row> rows, const QString& holderFolder);
+    };
     template <typename Row, typename IsWanted>
-    void FindIn(const QList<Row>& table, bool inContext, const ReferenceTarget& target,
+    void FindIn(const Rows<Row>& table, bool inContext, const ReferenceTarget& target,
                 IsWanted isWanted, QList<docbench::FoundReference>& to) const;
 
     FileState state_;
     QString path_;
-    QString holderFolder_;
-    QList<StoredComponent> components_;
-    QList<StoredExternal> externals_;
+    Rows<StoredComponent> components_;
+    Rows<StoredExternal> externals_;
 };
 
 }  // namespace docmodel

@@ -29,6 +29,7 @@ public:
     };
     Knowledge Ask(const ListedDocument& document, const ReferenceTarget& target);
 
+    bool CanLearn() const { return grain_.has_value(); }
     // Takes in a document that was read because there was no knowledge of it. Documents come in the
     // order of the listing here as well.
     void Learn(const ListedDocument& document, const FileState& state,

@@ -37,7 +37,7 @@ QString FolderPrefix(const QString& pattern) {
 // A document that must be read, and what is kept of it then.
 struct Candidate {
     const ListedDocument* document;
-    bool isNew;  // the index does not know it
+    bool isNew;  // the index is to know it
     bool isRead = false;
     QList<docbench::FoundReference> rows = {};
     FileState state = {};
@@ -101,7 +101,8 @@ void FolderSearch::Search(const FolderListing& listing, FolderMemory& memory) {
     for (const ListedDocument& document : listing.documents) {
         const FolderMemory::Knowledge knowledge = memory.Ask(document, target_);
         if (knowledge != FolderMemory::Knowledge::Without)
-            candidates.push_back({&document, knowledge == FolderMemory::Knowledge::None});
+            candidates.push_back(
+                {&document, memory.CanLearn() && knowledge == FolderMemory::Knowledge::None});
     }
     InParallel(candidates.size(), [&](size_t i) { Read(candidates[i]); });
     for (Candidate& candidate : candidates) {

@@ -19,7 +19,8 @@ namespace {
 
 Q_LOGGING_CATEGORY(indexLog, "docmodel.index", QtInfoMsg)
 
-// Two columns as one search needs them at a time: reading one must not cost the other's bytes.
+// A row a folder. `properties` is for searches by properties, which keep their own bytes there: a
+// search reads and writes one column and leaves the other alone.
 constexpr char kCreate[] =
     "CREATE TABLE IF NOT EXISTS folders"
     " (path BLOB PRIMARY KEY NOT NULL, documents BLOB, properties BLOB)";
@@ -27,11 +28,10 @@ constexpr char kLoad[] = "SELECT documents FROM folders WHERE path = ?";
 constexpr char kStore[] =
     "INSERT INTO folders (path, documents) VALUES (?, ?)"
     " ON CONFLICT (path) DO UPDATE SET documents = excluded.documents";
-constexpr char kForget[] = "DELETE FROM folders WHERE path = ?";
 
 // Readers and a writer don't wait for each other. Nothing is synced: after a power failure old or
 // broken rows are found out as such when they are read.
-constexpr const char* kPragmas[] = {"PRAGMA journal_mode = WAL", "PRAGMA synchronous = OFF",
+constexpr const char* kPragmas[] = {"PRAGMA synchronous = OFF", "PRAGMA journal_mode = WAL",
                                     "PRAGMA wal_autocheckpoint = 2000"};
 
 constexpr char kOptions[] = "QSQLITE_BUSY_TIMEOUT=100";
@@ -79,7 +79,6 @@ struct ReferenceIndex::Connection {
     ~Connection() {
         load.reset();
         store.reset();
-        forget.reset();
         database = QSqlDatabase();
         QSqlDatabase::removeDatabase(name);
     }
@@ -92,7 +91,6 @@ struct ReferenceIndex::Connection {
     QSqlDatabase database;
     std::optional<QSqlQuery> load;
     std::optional<QSqlQuery> store;
-    std::optional<QSqlQuery> forget;
 };
 
 QSqlError ReferenceIndex::Connection::Prepare(std::optional<QSqlQuery>& query,
@@ -118,9 +116,7 @@ QSqlError ReferenceIndex::Connection::Open(const QString& file) {
         if (error.isValid())
             return error;
     }
-    if (QSqlError error = Prepare(store, kStore); error.isValid())
-        return error;
-    return Prepare(forget, kForget);
+    return Prepare(store, kStore);
 }
 
 ReferenceIndex::ReferenceIndex() {
@@ -191,13 +187,6 @@ void ReferenceIndex::Store(const QByteArray& folder, const QByteArray& documents
         Replace();
         canStore_ = true;
     }
-}
-
-void ReferenceIndex::Forget(const QByteArray& folder) {
-    if (!connection_ || !canStore_)
-        return;
-    connection_->forget->bindValue(0, folder);
-    canStore_ = connection_->forget->exec();
 }
 
 }  // namespace docmodel

@@ -33,7 +33,6 @@ public:
     // What was stored last for the folder; empty if nothing is known.
     QByteArray Load(const QByteArray& folder);
     void Store(const QByteArray& folder, const QByteArray& documents);
-    void Forget(const QByteArray& folder);
 
 private:
     struct Connection;

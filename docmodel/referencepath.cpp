@@ -91,6 +91,16 @@ QString InWebFolder(const QString& webFolder, const QString& relative) {
     return folder + rest;
 }
 
+// Whether `relative`, taken from the folder, is the same text as `path`. Says no when in doubt.
+bool IsSameWay(QStringView path, QStringView folder, QStringView relative) {
+    while (relative.startsWith(u"../") && folder.size() > 1) {
+        relative = relative.sliced(3);
+        folder = folder.first(folder.chopped(1).lastIndexOf(u'/') + 1);
+    }
+    return path.size() == folder.size() + relative.size() && path.startsWith(folder) &&
+           path.endsWith(relative);
+}
+
 }  // namespace
 
 bool IsUrl(const QString& path) {
@@ -133,10 +143,7 @@ PathChoice PossiblePaths(const StoredPath& stored, const QString& holderFolder) 
     const bool onlyRelative = stored.relative.isEmpty() && !IsAbsolute(path);
     const QString& relative = onlyRelative ? path : stored.relative;
     // Most documents lie where they lay when the row was written: then both ways are one.
-    const bool isOneWay =
-        relative.isEmpty() || (path.size() == holderFolder.size() + relative.size() &&
-                               path.startsWith(holderFolder) && path.endsWith(relative));
-    if (isOneWay)
+    if (relative.isEmpty() || IsSameWay(path, holderFolder, relative))
         return {CleanPath(path), {}};
     QString beside = CleanPath(holderFolder + WithSlashes(relative));
     QString absolute = onlyRelative ? beside : CleanPath(path);
