@@ -19,7 +19,6 @@ namespace {
 constexpr mode_t kOwnerOnly = 0700;
 constexpr char kAbandoned[] = ".abandoned";  // marks a folder that is being deleted
 constexpr int kMostFolders = 100;            // of processes with one id, as in containers
-constexpr int kMostTries = 100;              // to be quicker than the programs that end
 
 QString Reason(int error) {
     return QString::fromStdString(std::generic_category().message(error));
@@ -53,8 +52,7 @@ bool IsSafe(const QByteArray& folder) {
 
 // The user's folder by its plain name; where another user has taken that name, one that can't be
 // guessed, which later processes do not find, so that this one must clear it away itself.
-QString MakeUserFolder(const QString& parent) {
-    QString plain = QDir(parent).filePath(QStringLiteral("docbench-%1").arg(uint(::geteuid())));
+QString MakeUserFolder(const QString& plain) {
     if (IsSafe(QFile::encodeName(plain)))
         return plain;
     QByteArray other = QFile::encodeName(plain) + "-XXXXXX";
@@ -93,33 +91,30 @@ void DeleteIfAbandoned(const QString& folder) {
 
 }  // namespace
 
-ProcessFolder::ProcessFolder(const QString& parent) : userFolder_(MakeUserFolder(parent)) {
+ProcessFolder::ProcessFolder(const QString& parent)
+    : plainUserFolder_(QDir(parent).filePath(QStringLiteral("docbench-%1").arg(uint(::geteuid())))),
+      userFolder_(MakeUserFolder(plainUserFolder_)) {
     const QString name = QString::number(::getpid());
     for (int i = 0; lock_ < 0 && i < kMostFolders; ++i) {
-        MakeFolder(parent, i == 0 ? name : name + u'-' + QString::number(i));
+        MakeFolder(i == 0 ? name : name + u'-' + QString::number(i));
         lock_ = Lock(QFile::encodeName(path_));
     }
     if (lock_ < 0)
         Fail(path_, EWOULDBLOCK);
 }
 
-// Another program that ends takes the user's folder with it as long as nothing is in it.
-void ProcessFolder::MakeFolder(const QString& parent, const QString& name) {
+void ProcessFolder::MakeFolder(const QString& name) {
     path_ = userFolder_ + u'/' + name;
-    for (int i = 0; ::mkdir(QFile::encodeName(path_).constData(), kOwnerOnly) != 0; ++i) {
-        if (errno == EEXIST)
-            return;
-        if (errno != ENOENT || i == kMostTries)
-            Fail(path_, errno);
-        userFolder_ = MakeUserFolder(parent);
-        path_ = userFolder_ + u'/' + name;
-    }
+    if (::mkdir(QFile::encodeName(path_).constData(), kOwnerOnly) != 0 && errno != EEXIST)
+        Fail(path_, errno);
 }
 
 ProcessFolder::~ProcessFolder() {
     QDir(path_).removeRecursively();
     ::close(lock_);
-    QDir().rmdir(userFolder_);  // stays while other processes have folders in it
+    // The plain one stays, empty or not: another program may be about to use it.
+    if (userFolder_ != plainUserFolder_)
+        QDir().rmdir(userFolder_);
 }
 
 void ProcessFolder::DeleteAbandoned() const {

@@ -24,8 +24,9 @@ public:
     void DeleteAbandoned() const;
 
 private:
-    void MakeFolder(const QString& parent, const QString& name);
+    void MakeFolder(const QString& name);
 
+    QString plainUserFolder_;
     QString userFolder_;
     QString path_;
     int lock_ = -1;
