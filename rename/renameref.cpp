@@ -22,7 +22,6 @@
 #include "services/webcopies.h"
 #include "services/webdocument.h"
 #include "shell/languagefonts.h"
-#include "shell/locking.h"
 #include "shell/openurlfrm.h"
 #include "shell/pathdrop.h"
 #include "shell/picturestore.h"
@@ -40,10 +39,6 @@ QString Labelled(const QString& text) {
 
 void Warn(const QString& text) {
     gSeams.dialogs->Box(text, Dialogs::Icon::Exclamation, gAppTitle);
-}
-
-int AccessStateOf(const QString& path) {
-    return Documents().MakeDocumentFile()->GetAccessState(LocalCopyOf(path));
 }
 
 }  // namespace
@@ -162,13 +157,6 @@ void renameRef::Load() {
         Browse();
 }
 
-bool renameRef::MayBeWritten(const QString& path) {
-    const int code = AccessStateOf(path);
-    if (code != 0)
-        ReportAccessState(code, path);
-    return code == 0;
-}
-
 void renameRef::FillForm() {
     ui_->editBox1->show();
     ui_->Labelnon2000->hide();
@@ -210,8 +198,9 @@ QString renameRef::Target() const {
 
 void renameRef::AddExtension() {
     const QString name = ui_->newname->text();
-    if (!name.isEmpty() && DocTypeOf(name) == DocType::None)
-        ui_->newname->setText(name + u'.' + ExtensionOf(ui_->oldname->text()));
+    const QString whole = WithExtension(name, ui_->oldname->text());
+    if (whole != name)
+        ui_->newname->setText(whole);
 }
 
 bool renameRef::eventFilter(QObject* watched, QEvent* event) {
@@ -386,7 +375,8 @@ bool renameRef::PrepareApply() {
         ui_->newname->setSelection(0, kLongestSelection);
         return false;
     }
-    if (!CheckRows())
+    if (!CheckHolders(ui_->lv->List(), subject_, ui_->newname->text(),
+                      [this](int row) { ui_->lv->SelectRow(row); }))
         return false;
     if (!parentDocument.isEmpty() && !IsWebPath(parentDocument) && !MayBeWritten(parentDocument)) {
         EnableCommands(false);
@@ -406,45 +396,6 @@ bool renameRef::AskForSearch() {
     whereUsedDone = answer == Dialogs::Answer::No;
     ui_->reset->setEnabled(whereUsedDone);
     return whereUsedDone;
-}
-
-bool renameRef::CheckRows() {
-    for (int row = 0; row < ui_->lv->List().Count(); ++row) {
-        if (ui_->lv->List().At(row).ticked && !CheckRow(row))
-            return false;
-    }
-    return true;
-}
-
-bool renameRef::CheckRow(int row) {
-    const QString holder = ui_->lv->List().At(row).cells[kHolderColumn].tag;
-    const QString newName = ui_->newname->text();
-    if (FileNameOf(newName).compare(FileNameOf(holder), Qt::CaseInsensitive) == 0) {
-        ui_->lv->SelectRow(row);
-        RefuseRow(row);
-        Warn(replaceMode ? Format(Text::HolderIsReplacement, holder, newName)
-                         : Format(Text::HolderHasNewName, holder, newName));
-        return false;
-    }
-    if (IsWebPath(holder))
-        return true;
-    const int code = AccessStateOf(holder);
-    if (code != 0) {
-        RefuseRow(row);
-        ReportAccessState(code, holder);
-        return false;
-    }
-    ui_->lv->List().Change(
-        row, [](CellRow& changed) { changed.cells[kHolderColumn].foreColor = kColorNormal; });
-    return true;
-}
-
-// The next try goes on without it.
-void renameRef::RefuseRow(int row) {
-    ui_->lv->List().Change(row, [](CellRow& changed) {
-        changed.cells[kHolderColumn].foreColor = kColorRed;
-        changed.ticked = false;
-    });
 }
 
 void renameRef::Apply() {

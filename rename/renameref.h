@@ -44,7 +44,6 @@ private:
     void ConnectControls();
     void ShowMode();
     void Load();
-    bool MayBeWritten(const QString& path);  // else a box says why not
     void FillForm();
     void EnableCommands(bool enabled);
     void EnableInput(bool enabled);
@@ -66,9 +65,6 @@ private:
 
     bool PrepareApply();
     bool AskForSearch();
-    bool CheckRows();
-    bool CheckRow(int row);
-    void RefuseRow(int row);
     void Apply();
     void OpenSelected();
     void ExportRows();

@@ -1,26 +1,17 @@
 // The renaming itself: what every document holds afterwards, whatever fails on the way.
 
-#include <QDir>
 #include <QTest>
 
-#include "cells/celllist.h"
-#include "rename/renamelist.h"
-#include "rename/renamesearch.h"
-#include "rename/renametransaction.h"
 #include "services/filesystem.h"
-#include "services/language.h"
-#include "services/paths.h"
 #include "services/texts.h"
+#include "tests/rename/renameproject.h"
 #include "tests/support/failingaccess.h"
 #include "tests/support/testdialogs.h"
 #include "tests/support/testenvironment.h"
-#include "tests/support/testlibrary.h"
 
 using namespace docbench;
 
 namespace {
-
-constexpr int kHolders = 12;
 
 // Takes every box and writes it down.
 class CollectingDialogs : public Dialogs {
@@ -40,47 +31,6 @@ public:
 
 private:
     Dialogs* former_;
-};
-
-// A part, its parent, and the other holders, one of which has two references to it.
-struct Project {
-    Project() {
-        LoadResources();
-        pin = library.Make("pin.tfmprt");
-        PrepareRenameList(list);
-        for (int i = 0; i < kHolders; ++i) {
-            const QString name = QString("holder%1.tfmasm").arg(i, 2, 10, QChar('0'));
-            holders.append(library.Make(name, {{pin, i + 1}}, {{pin, "mirrored"}}));
-        }
-        const RenameSearch search{.document = pin,
-                                  .parent = holders[0],
-                                  .kinds = {},
-                                  .status = [](const QString&) {},
-                                  .yield = [] {},
-                                  .cancelled = [] { return false; },
-                                  .progress = [](const SearchCounts&) {}};
-        SearchHolders(search, library.Folder(), list);
-    }
-    RenamePlan Plan() const {
-        return {.oldPath = pin, .newPath = library.Path("bolt.tfmprt"), .parent = holders[0]};
-    }
-    RenameResult Run() {
-        return RunRename(list, Plan(),
-                         {.status = [](const QString&) {}, .holders = [](int, int) {}});
-    }
-    // What a holder refers to, its two tables joined.
-    QString Holds(const QString& holder) const {
-        const auto file = Documents()->MakeDocumentFile();
-        file->Open(holder);
-        return FileNameOf(file->GetComponent(0, QString()).path) + ' ' +
-               FileNameOf(file->GetExternalReference(0, QString()).path);
-    }
-    static DocumentAccess* Documents() { return gSeams.documents; }
-
-    TestLibrary library;
-    QString pin;
-    QStringList holders;
-    CellList list;
 };
 
 // The n-th operation on a document from now on fails, once.
