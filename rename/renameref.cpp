@@ -189,7 +189,16 @@ void renameRef::OnNewNameChanged() {
     if (ui_->newname->text().isEmpty())
         ui_->apply->setEnabled(false);
     else if (!ui_->oldname->text().isEmpty())
-        ui_->apply->setEnabled(true);
+        EnableApply();
+}
+
+// The name may be typed while a search runs; it can be applied once that has ended.
+void renameRef::EnableApply() {
+    ui_->apply->setEnabled(!IsSearching());
+}
+
+bool renameRef::IsSearching() const {
+    return ui_->Findnow->text() == Tr(Text::Stop);
 }
 
 QString renameRef::Target() const {
@@ -229,7 +238,7 @@ void renameRef::CheckEntered() {
         ValidateTarget(subject_, Target(), [this](const QString& text) { SetStatusText(text); });
     checking_ = false;
     if (ok)
-        ui_->apply->setEnabled(true);
+        EnableApply();
     else
         RefuseTarget();
 }
@@ -248,7 +257,7 @@ void renameRef::CheckDropped(const QString& path) {
     if (!ok)
         return RefuseTarget();
     ui_->newname->setText(path);
-    ui_->apply->setEnabled(true);
+    EnableApply();
 }
 
 void renameRef::Browse() {
@@ -276,7 +285,7 @@ void renameRef::Browse() {
 
 // The button is its own stop.
 void renameRef::FindOrStop() {
-    if (ui_->Findnow->text() == Tr(Text::Stop))
+    if (IsSearching())
         cancelSearch = true;
     else
         Search();
@@ -292,24 +301,24 @@ void renameRef::Search() {
     const QPointer<renameRef> alive(this);
     const int load = loads_;
     const auto gone = [alive, load] { return !alive || alive->loads_ != load; };
-    const RenameSearch search{.document = subject_.fullName,
-                              .parent = parentDocument,
-                              .kinds = {.references = scope_.references,
-                                        .inContext = scope_.inContext,
-                                        .mirrored = scope_.mirrored},
-                              .subfolders = scope_.subfolders,
-                              .status = [this](const QString& text) { SetStatusText(text); },
-                              .yield = [] { QCoreApplication::processEvents(); },
-                              .cancelled = [alive, gone] { return gone() || alive->cancelSearch; },
-                              .progress =
-                                  [this](const SearchCounts& counts) {
-                                      ShowSearchProgress(*ui_->lblProgress, counts,
-                                                         ui_->lv->List().Count());
-                                  }};
+    const RenameSearch search{
+        .document = subject_.fullName,
+        .parent = parentDocument,
+        .kinds = {.references = scope_.references,
+                  .inContext = scope_.inContext,
+                  .mirrored = scope_.mirrored},
+        .subfolders = scope_.subfolders,
+        .status = [this](const QString& text) { SetStatusText(text); },
+        .yield = [] { QCoreApplication::processEvents(); },
+        .cancelled = [alive, gone] { return gone() || alive->cancelSearch; },
+        .progress = [this](const SearchCounts& counts,
+                           int rows) { ShowSearchProgress(*ui_->lblProgress, counts, rows); }};
     ErrorState errors;
-    errors.Run([&] { SearchHolders(search, searchFolders, list); });
+    RowBatch rows = RenameRows(list);
+    errors.Run([&] { SearchHolders(search, searchFolders, rows); });
     if (gone())
         return;
+    rows.Flush();
     if (errors.Failed())
         Warn(Format(Text::SearchError, errors.Description()));
     SetStatusText(Format(Text::HoldersFound, QString::number(list.Count())));

@@ -48,6 +48,8 @@ private:
     void EnableCommands(bool enabled);
     void EnableInput(bool enabled);
     void OnNewNameChanged();
+    void EnableApply();
+    bool IsSearching() const;
     QString Target() const;
     void AddExtension();
     void RefuseTarget();

@@ -3,8 +3,8 @@
 #include <QFileInfo>
 #include <QSet>
 
-#include "cells/celllist.h"
 #include "panes/folderwalk.h"
+#include "panes/rowbatch.h"
 #include "rename/renamelist.h"
 #include "services/documentlibrary.h"
 #include "services/folderlists.h"
@@ -20,8 +20,8 @@ namespace {
 
 class HolderSearch {
 public:
-    HolderSearch(const RenameSearch& search, CellList& list)
-        : search_(search), list_(list), finder_(Documents().MakeFolderSearcher()) {}
+    HolderSearch(const RenameSearch& search, RowBatch& rows)
+        : search_(search), rows_(rows), finder_(Documents().MakeFolderSearcher()) {}
 
     void SearchFolders(const QString& folder, bool deep);
 
@@ -30,7 +30,7 @@ private:
     void Take(const FoundReference& found);
 
     const RenameSearch& search_;
-    CellList& list_;
+    RowBatch& rows_;
     std::unique_ptr<FolderSearcher> finder_;
     QSet<QString> listed_;  // holders with their relations
 };
@@ -66,7 +66,8 @@ void HolderSearch::SearchFolder(const QString& folder) {
     const int count = finder_->GetResultCount();
     for (int i = 0; i < count; ++i)
         Take(finder_->GetResult(i));
-    search_.progress(finder_->GetSearchCounts());
+    rows_.Offer();
+    search_.progress(finder_->GetSearchCounts(), rows_.Count());
 }
 
 void HolderSearch::Take(const FoundReference& found) {
@@ -82,18 +83,18 @@ void HolderSearch::Take(const FoundReference& found) {
     if (listed_.contains(key))
         return;
     listed_.insert(key);
-    AddHolder(list_, found, holder, shown, found.document, search_.parent);
+    rows_.Add(HolderRow(found, holder, shown, found.document, search_.parent));
 }
 
 }  // namespace
 
-bool SearchHolders(const RenameSearch& search, const QString& folders, CellList& list) {
+bool SearchHolders(const RenameSearch& search, const QString& folders, RowBatch& rows) {
     const QString expanded = ExpandFolderList(folders);
     QStringList entries = expanded.split(u';', Qt::SkipEmptyParts);
     if (entries.isEmpty())
         return false;
     entries = RemoveDuplicates(entries);
-    HolderSearch holders(search, list);
+    HolderSearch holders(search, rows);
     for (const QString& entry : entries) {
         QString mirror;
         if (!IsWebPath(expanded)) {

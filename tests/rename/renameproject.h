@@ -31,8 +31,10 @@ struct Project {
                                   .status = [](const QString&) {},
                                   .yield = [] {},
                                   .cancelled = [] { return false; },
-                                  .progress = [](const SearchCounts&) {}};
-        SearchHolders(search, library.Folder(), list);
+                                  .progress = [](const SearchCounts&, int) {}};
+        RowBatch rows = RenameRows(list);
+        SearchHolders(search, library.Folder(), rows);
+        rows.Flush();
     }
     RenamePlan Plan() const {
         return {.oldPath = pin, .newPath = library.Path("bolt.tfmprt"), .parent = holders[0]};
