@@ -124,15 +124,24 @@ void renameRef::SetPartName(const QString& displayName, const QString& fullName,
     ui_->lblProgress->clear();
     ShowMode();
     whereUsedDone = isReplace;
-    if (subject_.fullName.isEmpty()) {
-        EnableCommands(false);
-        ui_->oldname->clear();
-        ui_->newname->clear();
-        return;
-    }
+    if (subject_.fullName.isEmpty())
+        return Blank();
     ErrorState errors;
-    if (!errors.Run([this] { Load(); }))
-        Warn(Format(Text::RenameLoadFailed, fullName, errors.Description()));
+    if (errors.Run([this] { Load(); }))
+        return;
+    // The fields stay as they are, but what they show is not what would be renamed.
+    subject_.fullName.clear();
+    EnableCommands(false);
+    ui_->newname->setEnabled(false);
+    Warn(Format(Text::RenameLoadFailed, fullName, errors.Description()));
+}
+
+void renameRef::Blank() {
+    subject_.fullName.clear();
+    ui_->oldname->clear();
+    ui_->newname->clear();
+    ui_->newname->setEnabled(false);
+    EnableCommands(false);
 }
 
 void renameRef::ShowMode() {
@@ -149,8 +158,7 @@ void renameRef::Load() {
                          (!replaceMode && !MayBeWritten(subject_.fullName));
     if (refused) {
         ui_->whereused->hide();
-        EnableCommands(false);
-        return;
+        return Blank();
     }
     FillForm();
     if (replaceMode && parentDocument.isEmpty() && !IsWebPath(subject_.fullName))
@@ -194,7 +202,7 @@ void renameRef::OnNewNameChanged() {
 
 // The name may be typed while a search runs; it can be applied once that has ended.
 void renameRef::EnableApply() {
-    ui_->apply->setEnabled(!IsSearching());
+    ui_->apply->setEnabled(!IsSearching() && !subject_.fullName.isEmpty());
 }
 
 bool renameRef::IsSearching() const {
@@ -315,7 +323,8 @@ void renameRef::Search() {
                            int rows) { ShowSearchProgress(*ui_->lblProgress, counts, rows); }};
     ErrorState errors;
     RowBatch rows = RenameRows(list);
-    errors.Run([&] { SearchHolders(search, searchFolders, rows); });
+    bool searched = false;
+    errors.Assign(searched, [&] { return SearchHolders(search, searchFolders, rows); });
     if (gone())
         return;
     rows.Flush();
@@ -323,7 +332,7 @@ void renameRef::Search() {
         Warn(Format(Text::SearchError, errors.Description()));
     SetStatusText(Format(Text::HoldersFound, QString::number(list.Count())));
     ui_->lv->FitColumns();
-    whereUsedDone = true;
+    whereUsedDone = searched || whereUsedDone;
     EnableCommands(true);
     if (ui_->newname->text().isEmpty())
         ui_->apply->setEnabled(false);

@@ -45,6 +45,7 @@ private:
     void ShowMode();
     void Load();
     void FillForm();
+    void Blank();
     void EnableCommands(bool enabled);
     void EnableInput(bool enabled);
     void OnNewNameChanged();

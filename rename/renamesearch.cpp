@@ -1,5 +1,6 @@
 #include "rename/renamesearch.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QSet>
 
@@ -32,7 +33,8 @@ private:
     const RenameSearch& search_;
     RowBatch& rows_;
     std::unique_ptr<FolderSearcher> finder_;
-    QSet<QString> listed_;  // holders with their relations
+    QHash<QString, QString> urls_;  // of the local copies
+    QSet<QString> listed_;          // holders with their relations
 };
 
 void HolderSearch::SearchFolders(const QString& folder, bool deep) {
@@ -57,6 +59,8 @@ void HolderSearch::SearchFolders(const QString& folder, bool deep) {
 
 void HolderSearch::SearchFolder(const QString& folder) {
     finder_->ClearResults();
+    if (gWebDocument)
+        urls_ = UrlsOfCopies();
     finder_->FindReferences({.pattern = folder + QStringLiteral("/*.*"),
                              .fullPathFlag = 0,
                              .baseName = BaseNameOf(search_.document),
@@ -73,7 +77,7 @@ void HolderSearch::SearchFolder(const QString& folder) {
 void HolderSearch::Take(const FoundReference& found) {
     QString holder = found.document;
     if (gWebDocument)
-        FindUrlOfCopy(found.document, holder);
+        holder = urls_.value(QDir::cleanPath(holder), holder);
     // A component is a plain reference whatever the types.
     const QString label = RelationLabel(holder, search_.document);
     if (search_.kinds.Drops(label))
@@ -96,10 +100,13 @@ bool SearchHolders(const RenameSearch& search, const QString& folders, RowBatch&
     entries = RemoveDuplicates(entries);
     HolderSearch holders(search, rows);
     for (const QString& entry : entries) {
+        if (search.cancelled())
+            break;
         QString mirror;
         if (!IsWebPath(expanded)) {
             if (QFileInfo(entry).isDir())
-                holders.SearchFolders(FolderNoSeparator(entry + u'/'), search.subfolders);
+                holders.SearchFolders(QDir::cleanPath(QFileInfo(entry).absoluteFilePath()),
+                                      search.subfolders);
         } else if (MirrorWebFolder(expanded, mirror)) {
             holders.SearchFolders(FolderNoSeparator(mirror), false);
         }

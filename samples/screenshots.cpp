@@ -4,13 +4,17 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDirIterator>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QTextStream>
 #include <functional>
 
+#include "app/consoledialogs.h"
 #include "app/theme.h"
 #include "frame/frmabout.h"
 #include "frame/maincontrol.h"
 #include "platform/desktopseams.h"
+#include "rename/renameref.h"
 #include "services/helpviewer.h"
 #include "services/language.h"
 #include "services/seams.h"
@@ -64,6 +68,23 @@ QWidget* WhereUsedOfAScrew(Stage& stage) {
     return &stage.frame;
 }
 
+// After a search for the holders of a part.
+Scene RenamingAPlate(bool replaces) {
+    return [replaces](Stage& stage) -> QWidget* {
+        stage.frame.SetCurrentFunction(replaces ? QStringLiteral("REPLACE")
+                                                : QStringLiteral("RENAME"));
+        const QString plate = stage.library.filePath(QStringLiteral("cover/cover plate.tfmprt"));
+        const QString unit = stage.library.filePath(QStringLiteral("cover/cover unit.tfmasm"));
+        auto* pane = stage.Find<renameRef>("renameRef");
+        pane->SetPartName({}, plate, plate + u';' + unit, replaces);
+        pane->findChild<QLineEdit*>(QStringLiteral("newname"))
+            ->setText(replaces ? stage.library.filePath(QStringLiteral("cover/bearing cap.tfmprt"))
+                               : QStringLiteral("ribbed cover plate.tfmprt"));
+        pane->findChild<QPushButton*>(QStringLiteral("Findnow"))->click();
+        return &stage.frame;
+    };
+}
+
 QWidget* About(Stage& stage) {
     auto* box = new frmAbout(&stage.frame);
     box->show();
@@ -87,6 +108,8 @@ const std::vector<std::pair<QString, Scene>>& Scenes() {
         {QStringLiteral("about"), About},
         {QStringLiteral("help"), Help},
         {QStringLiteral("where-used"), WhereUsedOfAScrew},
+        {QStringLiteral("rename"), RenamingAPlate(false)},
+        {QStringLiteral("replace"), RenamingAPlate(true)},
     };
     return scenes;
 }
@@ -117,6 +140,8 @@ int main(int argc, char* argv[]) {
     }
     ApplyTheme(qEnvironmentVariable("DOCBENCH_THEME", QStringLiteral("light")));
     const DesktopSeams seams;
+    ConsoleDialogs unattended;
+    gSeams.dialogs = &unattended;
     const QDir folder(arguments[2]);
     QDir().mkpath(folder.path());
     const QStringList wanted = arguments.mid(3);

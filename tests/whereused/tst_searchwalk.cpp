@@ -59,7 +59,7 @@ private Q_SLOTS:
     void orOnEnteringEachFolder() {
         QCOMPARE(Walk(WalkYields::AtFolders, -1),
                  QStringList({"-", "root", "-", "a", "-", "a1", "-", "b"}));
-        QCOMPARE(Walk(WalkYields::AtFolders, 2), QStringList({"-", "root", "-", "-"}));
+        QCOMPARE(Walk(WalkYields::AtFolders, 2), QStringList({"-", "root", "-"}));
     }
 
     void rowsAreHandedOnInGrowingPortions() {
