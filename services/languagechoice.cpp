@@ -25,22 +25,11 @@ bool IsFolderName(const QString& text) {
     });
 }
 
-QLocale LocaleOf(const QString& folder) {
-    if (folder == QLatin1String(kSimplified))
-        return {QLocale::Chinese, QLocale::SimplifiedHanScript, QLocale::AnyTerritory};
-    if (folder == QLatin1String(kTraditional))
-        return {QLocale::Chinese, QLocale::TraditionalHanScript, QLocale::AnyTerritory};
-    for (int language = QLocale::C + 1; language <= QLocale::LastLanguage; ++language)
-        if (QLocale::languageToString(QLocale::Language(language)).toLower() == folder)
-            return QLocale(QLocale::Language(language));
-    return QLocale::c();
-}
-
 // Only Chinese tells its two scripts apart; English is no "American English" here.
 QString NativeName(const QString& folder) {
     if (folder == QLatin1String("english"))
         return QStringLiteral("English");
-    const QString name = LocaleOf(folder).nativeLanguageName();
+    const QString name = LocaleOfLanguage(folder).nativeLanguageName();
     return name.isEmpty() ? folder : name.left(1).toUpper() + name.mid(1);
 }
 
@@ -57,6 +46,17 @@ QString LanguageFolderOf(const QLocale& locale) {
         default:
             return QLocale::languageToString(locale.language()).toLower();
     }
+}
+
+QLocale LocaleOfLanguage(const QString& folder) {
+    if (folder == QLatin1String(kSimplified))
+        return {QLocale::Chinese, QLocale::SimplifiedHanScript, QLocale::AnyTerritory};
+    if (folder == QLatin1String(kTraditional))
+        return {QLocale::Chinese, QLocale::TraditionalHanScript, QLocale::AnyTerritory};
+    for (int language = QLocale::C + 1; language <= QLocale::LastLanguage; ++language)
+        if (QLocale::languageToString(QLocale::Language(language)).toLower() == folder)
+            return QLocale(QLocale::Language(language));
+    return QLocale::c();
 }
 
 QList<OfferedLanguage> OfferedLanguages(const QString& programFolder) {

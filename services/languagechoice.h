@@ -21,6 +21,9 @@ struct OfferedLanguage {
 // to a reader.
 QString LanguageFolderOf(const QLocale& locale);
 
+// The locale of a folder's language; the one of no language for a name that is none's.
+QLocale LocaleOfLanguage(const QString& folder);
+
 // The languages whose texts are below the program's folder, in the order of their folders.
 QList<OfferedLanguage> OfferedLanguages(const QString& programFolder);
 
