@@ -391,7 +391,7 @@
     <message id="tessadocres-84">
         <source></source>
         <extracomment>FindMirrored. Check box: find parts that mirror the document.</extracomment>
-        <translation>Pièces s&amp;ymétriques</translation>
+        <translation>S&amp;ymétriques</translation>
     </message>
     <message id="tessadocres-85">
         <source></source>
@@ -411,7 +411,7 @@
     <message id="tessadocres-88">
         <source></source>
         <extracomment>FindInContext. Check box: find parts that refer to the assembly in context.</extracomment>
-        <translation>Références en conte&amp;xte</translation>
+        <translation>En conte&amp;xte</translation>
     </message>
     <message id="tessadocres-89">
         <source></source>
@@ -1306,7 +1306,7 @@
     <message id="tessadocres-275">
         <source></source>
         <extracomment>WithSubfolders. Check box: search the folders below as well.</extracomment>
-        <translation>Avec les sous-&amp;dossiers</translation>
+        <translation>Sous-&amp;dossiers</translation>
     </message>
     <message id="tessadocres-276">
         <source></source>
