@@ -21,10 +21,10 @@ bool IsCompiled(const QString& helpFile) {
 }
 
 void ReportMissing(const QString& helpFile) {
-    gSeams.dialogs->Box(QStringLiteral("The help file %1 can't be found. Please check the "
-                                       "installation.")
-                            .arg(helpFile),
-                        Dialogs::Icon::Exclamation, gAppTitle);
+    gSeams.dialogs->Box(
+        HelpBrowser::tr("The help file %1 can't be found. Please check the installation.")
+            .arg(helpFile),
+        Dialogs::Icon::Exclamation, gAppTitle);
 }
 
 }  // namespace
