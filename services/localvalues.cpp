@@ -74,6 +74,15 @@ QDateTime ParseAs(const QLocale& locale, const QString& text, const QString& dat
     return {};
 }
 
+QDateTime ToTheSecond(const QDateTime& time) {
+    return time.addMSecs(-time.time().msec());
+}
+
+QString ShownTimeFormat(const QLocale& locale, const QTime& time) {
+    const QString format = locale.timeFormat(QLocale::ShortFormat);
+    return time.second() == 0 ? format : WithSeconds(format);
+}
+
 // Locales written from right to left have marks of direction in their numbers, which are written
 // but not read.
 QString WithoutMarks(QString text) {
@@ -108,13 +117,16 @@ std::optional<double> NumberFromLocal(const QString& text) {
 
 QString DateToLocal(const QDateTime& date) {
     const QLocale locale;
-    const QDateTime local = date.toLocalTime();
-    const QString day = locale.toString(local.date(), DateFormat(locale));
-    if (local == local.date().startOfDay())
-        return day;
-    const QString format = locale.timeFormat(QLocale::ShortFormat);
-    return day + u' ' +
-           locale.toString(local.time(), local.time().second() == 0 ? format : WithSeconds(format));
+    const QDateTime local = ToTheSecond(date.toLocalTime());
+    const bool isDay = local == local.date().startOfDay();
+    QString shown = locale.toString(local.date(), DateFormat(locale));
+    if (!isDay)
+        shown += u' ' + locale.toString(local.time(), ShownTimeFormat(locale, local.time()));
+    // Not every locale reads the digits and the words for halves of the day that it writes.
+    if (DateFromLocal(shown) == local)
+        return shown;
+    return isDay ? local.date().toString(Qt::ISODate)
+                 : local.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
 }
 
 QString NumberToLocal(double number) {
