@@ -121,15 +121,14 @@ void PropertiesBox::SetShowDesc(bool show) {
     ui_->DescControl1->setVisible(show);
 }
 
-// Words that the one page of the pane is indexed under.
 QString PropertiesBox::HelpTopic() const {
     switch (ui_->TabStrip1->currentIndex()) {
         case kCustomTab:
-            return QStringLiteral("custom");
+            return QStringLiteral("properties#custom");
         case kConfigurationTab:
-            return QStringLiteral("configuration-specific");
+            return QStringLiteral("properties#configuration");
         default:
-            return QStringLiteral("summary");
+            return QStringLiteral("properties#summary");
     }
 }
 

@@ -4,6 +4,8 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDirIterator>
+#include <QListWidget>
+#include <QTabWidget>
 #include <QTextStream>
 #include <functional>
 
@@ -64,6 +66,19 @@ QWidget* WhereUsedOfAScrew(Stage& stage) {
     return &stage.frame;
 }
 
+// Of a part that has configurations.
+Scene PropertiesTab(int tab) {
+    return [tab](Stage& stage) -> QWidget* {
+        stage.frame.Shell().OpenPath(
+            stage.library.filePath(QStringLiteral("fasteners/hex screw M6.tfmprt")));
+        stage.frame.SetCurrentFunction(QStringLiteral("SUMMARY"));
+        stage.Find<QTabWidget>("TabStrip1")->setCurrentIndex(tab);
+        if (auto* list = stage.Find<QListWidget>("List1"); tab == 2 && list->count() > 0)
+            list->setCurrentRow(0);
+        return &stage.frame;
+    };
+}
+
 QWidget* About(Stage& stage) {
     auto* box = new frmAbout(&stage.frame);
     box->show();
@@ -87,6 +102,9 @@ const std::vector<std::pair<QString, Scene>>& Scenes() {
         {QStringLiteral("about"), About},
         {QStringLiteral("help"), Help},
         {QStringLiteral("where-used"), WhereUsedOfAScrew},
+        {QStringLiteral("properties-summary"), PropertiesTab(0)},
+        {QStringLiteral("properties-custom"), PropertiesTab(1)},
+        {QStringLiteral("properties-configuration"), PropertiesTab(2)},
     };
     return scenes;
 }

@@ -6,6 +6,7 @@
 #include "tests/support/testenvironment.h"
 
 using namespace docmodel;
+using docbench::PropertyGroup;
 using docbench::Table;
 
 class TestStamps : public QObject {

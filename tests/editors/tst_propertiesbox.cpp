@@ -313,13 +313,13 @@ private Q_SLOTS:
     void theFocusAndTheHelpFollowTheTab() {
         PropertiesBench bench;
         bench.Load();
-        QCOMPARE(bench.pane.HelpTopic(), QString("summary"));
+        QCOMPARE(bench.pane.HelpTopic(), QString("properties#summary"));
         bench.Tabs()->setCurrentIndex(1);
         QVERIFY(bench.Name(kCustomSet)->hasFocus());
-        QCOMPARE(bench.pane.HelpTopic(), QString("custom"));
+        QCOMPARE(bench.pane.HelpTopic(), QString("properties#custom"));
         bench.Tabs()->setCurrentIndex(2);
         QVERIFY(bench.Configurations()->hasFocus());
-        QCOMPARE(bench.pane.HelpTopic(), QString("configuration-specific"));
+        QCOMPARE(bench.pane.HelpTopic(), QString("properties#configuration"));
         QVERIFY(bench.Configurations()->selectedItems().isEmpty());
         bench.Tabs()->setCurrentIndex(0);
         QVERIFY(bench.Summary(2)->hasFocus());
