@@ -5,7 +5,9 @@
 #include <QCheckBox>
 #include <QDirIterator>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTextStream>
 #include <functional>
 
@@ -85,6 +87,19 @@ Scene RenamingAPlate(bool replaces) {
     };
 }
 
+// Of a part that has configurations.
+Scene PropertiesTab(int tab) {
+    return [tab](Stage& stage) -> QWidget* {
+        stage.frame.Shell().OpenPath(
+            stage.library.filePath(QStringLiteral("fasteners/hex screw M6.tfmprt")));
+        stage.frame.SetCurrentFunction(QStringLiteral("SUMMARY"));
+        stage.Find<QTabWidget>("TabStrip1")->setCurrentIndex(tab);
+        if (auto* list = stage.Find<QListWidget>("List1"); tab == 2 && list->count() > 0)
+            list->setCurrentRow(0);
+        return &stage.frame;
+    };
+}
+
 QWidget* About(Stage& stage) {
     auto* box = new frmAbout(&stage.frame);
     box->show();
@@ -110,6 +125,9 @@ const std::vector<std::pair<QString, Scene>>& Scenes() {
         {QStringLiteral("where-used"), WhereUsedOfAScrew},
         {QStringLiteral("rename"), RenamingAPlate(false)},
         {QStringLiteral("replace"), RenamingAPlate(true)},
+        {QStringLiteral("properties-summary"), PropertiesTab(0)},
+        {QStringLiteral("properties-custom"), PropertiesTab(1)},
+        {QStringLiteral("properties-configuration"), PropertiesTab(2)},
     };
     return scenes;
 }
