@@ -17,9 +17,11 @@
 #include "frame/maincontrol.h"
 #include "platform/desktopseams.h"
 #include "rename/renameref.h"
+#include "services/folderlists.h"
 #include "services/helpviewer.h"
 #include "services/language.h"
 #include "services/seams.h"
+#include "setup/folderlisteditor.h"
 #include "shell/previewpane.h"
 #include "shell/usercontrol1.h"
 #include "whereused/whereused.h"
@@ -100,6 +102,16 @@ Scene PropertiesTab(int tab) {
     };
 }
 
+QWidget* Setup(Stage& stage) {
+    const QString folders = QStringLiteral("/work/gearbox;/work/fasteners;/work/library/bearings");
+    for (const char* name : {"Gearboxes", "Vendors"})
+        WriteFolderList(QLatin1String(name) + QLatin1String(kFolderListMarker), folders);
+    stage.Find<FolderListEditor>("lists")->ReloadNames();
+    stage.frame.SetCurrentFunction(QStringLiteral("SETUP"));
+    stage.Find<QLineEdit>("wuKey")->setText(QStringLiteral("Vendors"));
+    return &stage.frame;
+}
+
 QWidget* About(Stage& stage) {
     auto* box = new frmAbout(&stage.frame);
     box->show();
@@ -125,6 +137,7 @@ const std::vector<std::pair<QString, Scene>>& Scenes() {
         {QStringLiteral("where-used"), WhereUsedOfAScrew},
         {QStringLiteral("rename"), RenamingAPlate(false)},
         {QStringLiteral("replace"), RenamingAPlate(true)},
+        {QStringLiteral("setup"), Setup},
         {QStringLiteral("properties-summary"), PropertiesTab(0)},
         {QStringLiteral("properties-custom"), PropertiesTab(1)},
         {QStringLiteral("properties-configuration"), PropertiesTab(2)},

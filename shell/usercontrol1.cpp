@@ -1,4 +1,5 @@
 #include "shell/usercontrol1.h"
+#include "setup/setup.h"
 
 #include <QMenu>
 
@@ -69,6 +70,9 @@ UserControl1::UserControl1(QWidget* parent)
     AddPane(PaneId::Properties, new PropertiesBox);
     AddPane(PaneId::WhereUsed, new whereUsed);
     AddPane(PaneId::Rename, new renameRef);
+    auto* options = new setup;
+    AddPane(PaneId::Setup, options);
+    connect(options, &setup::SetupChanged, this, [this] { RefreshTree(QString()); });
 }
 
 UserControl1::~UserControl1() {
@@ -283,6 +287,8 @@ void UserControl1::hideEvent(QHideEvent* event) {
 }
 
 bool UserControl1::ShowDesc() const {
+    if (const auto* options = qobject_cast<const setup*>(PaneOf(PaneId::Setup)))
+        return options->ShowDesc();
     const auto key = SettingsKey::Open(SettingsKey::Hive::CurrentUser, kExtReferencesKey);
     return !key || key->Number(QStringLiteral("Show Description")).value_or(1) != 0;
 }

@@ -197,6 +197,7 @@ void TestUserControl1::theCaptionsAreSetAtTheStart() {
 
 void TestUserControl1::theDescriptionFollowsTheStoredOption() {
     Bench bench;
+    bench.Add(PaneId::Setup);  // a pane without the option, as on a host's own
     FakePane* references = bench.Add(PaneId::References);
     const auto key =
         SettingsKey::Open(SettingsKey::Hive::CurrentUser, QLatin1String(kExtReferencesKey));
