@@ -2,6 +2,8 @@
 
 #include <QCommandLineParser>
 
+#include "services/webauthority.h"
+
 namespace docbench {
 
 namespace {
@@ -83,6 +85,9 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     if (parser.isSet(kJsonOption) && line.does != CommandLine::Does::Tree)
         return Wrong(QStringLiteral("--json goes with the command tree."));
     line.file = words.value(0);
+    if (HasPassword(line.file))
+        return Wrong(
+            QStringLiteral("Name the address without the password: others see the command line."));
     line.json = parser.isSet(kJsonOption);
     line.screenshot = parser.value(kScreenshotOption);
     line.quitWhenShown = parser.isSet(kQuitOption);

@@ -28,7 +28,7 @@ const char kVersion[] = DOCBENCH_VERSION;
 
 int RunTree(int argc, char* argv[], const CommandLine& line) {
     const QCoreApplication application(argc, argv);
-    ConsoleDialogs dialogs;
+    ConsoleDialogs dialogs(line.file);
     gSeams.dialogs = &dialogs;
     DocumentLibrary library;
     gSeams.documents = library.Access();
@@ -54,7 +54,7 @@ int RunWindow(int argc, char* argv[], const CommandLine& line) {
     ApplyTheme(line.theme);
     const DesktopSeams seams;
     const bool endsAlone = line.quitWhenShown || !line.screenshot.isEmpty();
-    ConsoleDialogs unattended;
+    ConsoleDialogs unattended(line.file);
     if (endsAlone)
         gSeams.dialogs = &unattended;  // nobody is there to answer
     MainWindow window;
