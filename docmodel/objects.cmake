@@ -32,9 +32,11 @@ target_sources(docmodel_core PRIVATE
     webfolderclientobject.cpp
     webfolderlistingobject.cpp
     weblogin.cpp
+    webmemory.cpp
     webpropfind.cpp
     webreceiver.cpp
     websession.cpp
+    webupload.cpp
     webversion.cpp
     webwatch.cpp
     xml.cpp

@@ -213,7 +213,8 @@ private Q_SLOTS:
         dialogs.Expect("File save to server failed", Dialogs::Icon::None);
         QVERIFY(!UploadIfWeb(kPin));
         QVERIFY(dialogs.AllCame());
-        QCOMPARE(dialogs.LastDetail(), web.server.error);
+        QVERIFY(dialogs.LastDetail().startsWith(web.server.error));
+        QVERIFY(dialogs.LastDetail().contains("Your copy is " + copy + ". It is deleted when"));
         QCOMPARE(BytesOf(copy), QByteArray("one"));
         web.server.refusesUploads = false;
         QVERIFY(UploadIfWeb(kPin));
@@ -303,6 +304,8 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(copy));
         QVERIFY(!gWebCopies.contains(kPin));
         QCOMPARE(web.server.calls, QStringList("get " + kPin));
+        QCOMPARE(web.server.localMoves,
+                 QStringList(copy + " " + gTempFolder + "tessaformadocbench/bolt.tfmprt"));
     }
 
     void anotherCopyInTheWayOfARenamedOneIsForgotten() {
