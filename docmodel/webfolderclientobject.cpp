@@ -77,7 +77,11 @@ void WebFolderClientObject::Download(const WebAddress& address, const QString& l
     WebSession& session = SessionFor(address);
     const WebAnswer answer = session.Send(address, request);
     RequireSuccess(answer, address, Downloaded());
-    if (answer.status != 200 && answer.status != 203)
+    if (answer.status == 203)
+        throw WebError(address, Downloaded(),
+                       QStringLiteral("a server on the way changes it. Ask the network's "
+                                      "administrator for a way round it"));
+    if (answer.status != 200)
         throw WebError(address, Downloaded(), StatusReason(answer.status, answer.phrase));
     const QByteArray packing = answer.Header("content-encoding").toLower();
     if (!packing.isEmpty() && packing != "identity")
