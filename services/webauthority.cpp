@@ -1,5 +1,6 @@
 #include "services/webauthority.h"
 
+#include <QCoreApplication>
 #include <QUrl>
 
 namespace docbench {
@@ -52,7 +53,8 @@ QString WithoutUser(const QString& text) {
 }
 
 QString PasswordInAddressText() {
-    return QStringLiteral(
+    return QCoreApplication::translate(
+        "docbench::WebAddress",
         "Type the address without the password; you will be asked for it. Addresses are "
         "remembered and listed, and a password is not for that.");
 }
