@@ -75,6 +75,8 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     if (words.size() > 1)
         return Wrong(QStringLiteral("One FILE only, and no command is named %1.").arg(words[0]));
     line.file = words.value(0);
+    if (const QString problem = PasswordProblem(words); !problem.isEmpty())
+        return Wrong(problem);
     line.screenshot = parser.value(kScreenshotOption);
     line.quitWhenShown = parser.isSet(kQuitOption);
     line.theme = parser.value(kThemeOption);

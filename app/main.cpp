@@ -34,7 +34,7 @@ int RunWindow(int argc, char* argv[], const CommandLine& line) {
     ApplyTheme(line.theme);
     const DesktopSeams seams;
     const bool endsAlone = line.quitWhenShown || !line.screenshot.isEmpty();
-    ConsoleDialogs unattended;
+    ConsoleDialogs unattended(line.file);
     if (endsAlone)
         gSeams.dialogs = &unattended;  // nobody is there to answer
     MainWindow window;

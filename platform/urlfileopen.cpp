@@ -17,6 +17,7 @@
 #include "services/paths.h"
 #include "services/settingsstore.h"
 #include "services/texts.h"
+#include "services/webauthority.h"
 #include "services/webcopies.h"
 #include "shell/pathcombo.h"
 #include "shell/picturestore.h"
@@ -60,10 +61,8 @@ QString ParentOf(const QString& folder) {
 // looks wrong may hold a password.
 QString ReasonAgainst(const QString& address) {
     const QUrl url(address);
-    if (url.userInfo().contains(u':'))
-        return URLFileOpen::tr(
-            "Type the address without the password; you will be asked for it. Addresses are "
-            "remembered and listed, and a password is not for that.");
+    if (HasPassword(address))
+        return PasswordInAddressText();
     const bool web =
         url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http");
     if (!url.isValid() || !web || url.host().isEmpty())

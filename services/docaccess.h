@@ -266,9 +266,9 @@ public:
 
     // Downloads into a sibling of `localPath` that takes its name when it is whole.
     virtual bool GetFile(const QString& url, const QString& localPath) = 0;
-    // Uploads, unless that would overwrite somebody else's work: an address that was downloaded or
-    // uploaded before must still have what it had then; any other must not exist unless
-    // AllowOverwrite was called for it.
+    // Uploads, unless that would overwrite somebody else's work: the address that `localPath` was
+    // downloaded from or uploaded to must still have what it had then; any other must not exist
+    // unless AllowOverwrite was called for it.
     virtual bool PutFile(const QString& localPath, const QString& url) = 0;
     virtual bool MakeFolder(const QString& url) = 0;
     // Renames on the server, taking what is known of the one address to the other. `overwrite` 0
@@ -279,8 +279,11 @@ public:
 
     // Whether there is anything at an address, as its server says now.
     virtual Presence Exists(const QString& url) = 0;
-    // The user has agreed that whatever is at an address is replaced by the next upload.
+    // The user has agreed that whatever is at an address is replaced by the next upload. A download
+    // from there or a move before it ends that.
     virtual void AllowOverwrite(const QString& url) = 0;
+    // A downloaded file was renamed on this disk: what it was downloaded as stays known of it.
+    virtual void LocalFileMoved(const QString& /*from*/, const QString& /*to*/) {}
     // A whole sentence for the user about the last call that failed: the address, the reason and
     // what to do.
     virtual QString LastError() const = 0;

@@ -96,9 +96,12 @@ bool UploadIfWeb(const QString& path) {
         return true;
     if (gWebFolder && gWebFolder->PutFile(*copy, path))
         return true;
+    const QString kept = QStringLiteral(
+        " Your copy is %1. It is deleted when the program ends or another document is browsed to: "
+        "copy it elsewhere first.");
     gSeams.dialogs->Box(QStringLiteral("File save to server failed"), Dialogs::Icon::None,
                         QString(), Dialogs::Buttons::Ok,
-                        gWebFolder ? gWebFolder->LastError() : QString());
+                        gWebFolder ? gWebFolder->LastError() + kept.arg(*copy) : QString());
     return false;
 }
 
@@ -152,6 +155,8 @@ bool RenameWebCopy(const QString& oldUrl, const QString& newUrl) {
         gWebCopies.insert(oldUrl, former);  // its changes may not be on the server yet
         return false;
     }
+    if (gWebFolder)
+        gWebFolder->LocalFileMoved(former, copy);
     QString other;
     if (FindUrlOfCopy(copy, other))
         gWebCopies.remove(other);

@@ -17,6 +17,7 @@
 #include "services/seams.h"
 #include "services/settingsstore.h"
 #include "services/texts.h"
+#include "services/webauthority.h"
 #include "services/webcopies.h"
 #include "services/webdocument.h"
 #include "shell/languagefonts.h"
@@ -134,6 +135,8 @@ void UserControl1::ConnectWaysIn() {
     connect(ui_->Command1, &QPushButton::clicked, this, &UserControl1::Browse);
     connect(ui_->filepathCombo, &PathCombo::Entered, this, &UserControl1::OpenAndList);
     connect(ui_->filepathCombo, &PathCombo::Chosen, this, [this](const QString& path) {
+        if (RefusesPassword(path))
+            return;
         LeaveFileOperation();
         gWebDocument = IsWebPath(path);
         OpenDocument(path);
@@ -329,12 +332,21 @@ void UserControl1::OpenFromWebFolder() {
 }
 
 void UserControl1::OpenAndList(const QString& path) {
-    if (path.isEmpty() || DocTypeOf(path) == DocType::None)
+    if (path.isEmpty() || DocTypeOf(path) == DocType::None || RefusesPassword(path))
         return;
     LeaveFileOperation();
     gWebDocument = IsWebPath(path);
     OpenDocument(path);
     ui_->filepathCombo->InsertFirst(path);
+}
+
+// The address would go on into the tree, the messages, the path list and what the host saves.
+bool UserControl1::RefusesPassword(const QString& path) {
+    if (!HasPassword(path))
+        return false;
+    ui_->filepathCombo->setEditText(WithoutUser(path));
+    gSeams.dialogs->Box(PasswordInAddressText(), Dialogs::Icon::Exclamation, gAppTitle);
+    return true;
 }
 
 void UserControl1::LeaveFileOperation() {

@@ -1,8 +1,10 @@
 #include "app/commands/command.h"
 
 #include <QFileInfo>
+#include <algorithm>
 
 #include "services/paths.h"
+#include "services/webauthority.h"
 
 namespace docbench {
 
@@ -21,6 +23,12 @@ QString WholeFolder(const QString& folder) {
 
 QString DocumentPath(const QString& word) {
     return IsWebPath(word) ? word : QFileInfo(word).absoluteFilePath();
+}
+
+QString PasswordProblem(const QStringList& words) {
+    if (std::none_of(words.begin(), words.end(), HasPassword))
+        return {};
+    return QStringLiteral("Name the address without the password: others see the command line.");
 }
 
 QString Wrapped(const QString& text) {

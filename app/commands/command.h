@@ -35,6 +35,9 @@ protected:
 // The whole path of a document that was named on the line; an address as it stands.
 QString DocumentPath(const QString& word);
 
+// What is wrong with words of which one is an address with a password; empty when none is.
+QString PasswordProblem(const QStringList& words);
+
 // Text for a terminal: its paragraphs in lines of at most 80 characters; indented ones stay.
 QString Wrapped(const QString& text);
 

@@ -38,7 +38,7 @@ int WrongUsage(const Command& command, const QString& message) {
 }
 
 int RunWithSeams(const Command& command, const QCommandLineParser& parser) {
-    ConsoleDialogs dialogs;
+    ConsoleDialogs dialogs(parser.positionalArguments().value(0));  // the document
     gSeams.dialogs = &dialogs;
     DocumentLibrary library;
     gSeams.documents = library.Access();
@@ -108,6 +108,11 @@ int RunCommand(const Command& command, const QStringList& words) {
         return WrongUsage(
             command,
             QStringLiteral("The command %1 takes %2.").arg(command.Name(), command.Arguments()));
+    QStringList given = parser.positionalArguments();
+    for (const QString& option : parser.optionNames())
+        given += parser.values(option);
+    if (const QString problem = PasswordProblem(given); !problem.isEmpty())
+        return WrongUsage(command, problem);
     return RunWithSeams(command, parser);
 }
 

@@ -54,10 +54,6 @@
 <context>
     <name>docbench::URLFileOpen</name>
     <message>
-        <source>Type the address without the password; you will be asked for it. Addresses are remembered and listed, and a password is not for that.</source>
-        <translation>请输入不含密码的地址；稍后会要求您输入密码。地址会被记住并列出，密码不应出现在其中。</translation>
-    </message>
-    <message>
         <source>This is no address of a web folder. Type one that begins with https:// or http://, such as https://server/folder/.</source>
         <translation>这不是 Web 文件夹的地址。请输入以 https:// 或 http:// 开头的地址，例如 https://server/folder/。</translation>
     </message>
@@ -84,6 +80,13 @@
     <message>
         <source>Web folders can&apos;t be reached: the document library is not loaded.</source>
         <translation>无法访问 Web 文件夹：文档库未加载。</translation>
+    </message>
+</context>
+<context>
+    <name>docbench::WebAddress</name>
+    <message>
+        <source>Type the address without the password; you will be asked for it. Addresses are remembered and listed, and a password is not for that.</source>
+        <translation>请输入不含密码的地址；稍后会要求您输入密码。地址会被记住并列出，密码不应出现在其中。</translation>
     </message>
 </context>
 </TS>

@@ -54,10 +54,6 @@
 <context>
     <name>docbench::URLFileOpen</name>
     <message>
-        <source>Type the address without the password; you will be asked for it. Addresses are remembered and listed, and a password is not for that.</source>
-        <translation>Entrez l’adresse sans le mot de passe ; il vous sera demandé. Les adresses sont mémorisées et listées, un mot de passe n’y a pas sa place.</translation>
-    </message>
-    <message>
         <source>This is no address of a web folder. Type one that begins with https:// or http://, such as https://server/folder/.</source>
         <translation>Ce n’est pas l’adresse d’un dossier web. Entrez-en une qui commence par https:// ou http://, par exemple https://serveur/dossier/.</translation>
     </message>
@@ -84,6 +80,13 @@
     <message>
         <source>Web folders can&apos;t be reached: the document library is not loaded.</source>
         <translation>Les dossiers web sont inaccessibles : la bibliothèque de documents n’est pas chargée.</translation>
+    </message>
+</context>
+<context>
+    <name>docbench::WebAddress</name>
+    <message>
+        <source>Type the address without the password; you will be asked for it. Addresses are remembered and listed, and a password is not for that.</source>
+        <translation>Entrez l’adresse sans le mot de passe ; il vous sera demandé. Les adresses sont mémorisées et listées, un mot de passe n’y a pas sa place.</translation>
     </message>
 </context>
 </TS>

@@ -54,10 +54,6 @@
 <context>
     <name>docbench::URLFileOpen</name>
     <message>
-        <source>Type the address without the password; you will be asked for it. Addresses are remembered and listed, and a password is not for that.</source>
-        <translation>Geben Sie die Adresse ohne das Passwort ein; Sie werden danach gefragt. Adressen werden gemerkt und aufgelistet, und ein Passwort gehört nicht dorthin.</translation>
-    </message>
-    <message>
         <source>This is no address of a web folder. Type one that begins with https:// or http://, such as https://server/folder/.</source>
         <translation>Das ist keine Adresse eines Webordners. Geben Sie eine Adresse ein, die mit https:// oder http:// beginnt, etwa https://server/ordner/.</translation>
     </message>
@@ -84,6 +80,13 @@
     <message>
         <source>Web folders can&apos;t be reached: the document library is not loaded.</source>
         <translation>Webordner sind nicht erreichbar: Die Dokumentbibliothek ist nicht geladen.</translation>
+    </message>
+</context>
+<context>
+    <name>docbench::WebAddress</name>
+    <message>
+        <source>Type the address without the password; you will be asked for it. Addresses are remembered and listed, and a password is not for that.</source>
+        <translation>Geben Sie die Adresse ohne das Passwort ein; Sie werden danach gefragt. Adressen werden gemerkt und aufgelistet, und ein Passwort gehört nicht dorthin.</translation>
     </message>
 </context>
 </TS>

@@ -54,10 +54,6 @@
 <context>
     <name>docbench::URLFileOpen</name>
     <message>
-        <source>Type the address without the password; you will be asked for it. Addresses are remembered and listed, and a password is not for that.</source>
-        <translation>パスワードを含めずにアドレスを入力してください。パスワードは後で入力を求められます。アドレスは記憶されて一覧に表示されるため、パスワードを含めることはできません。</translation>
-    </message>
-    <message>
         <source>This is no address of a web folder. Type one that begins with https:// or http://, such as https://server/folder/.</source>
         <translation>これは Web フォルダーのアドレスではありません。https:// または http:// で始まるアドレス (例: https://server/folder/) を入力してください。</translation>
     </message>
@@ -84,6 +80,13 @@
     <message>
         <source>Web folders can&apos;t be reached: the document library is not loaded.</source>
         <translation>Web フォルダーに接続できません: ドキュメントライブラリが読み込まれていません。</translation>
+    </message>
+</context>
+<context>
+    <name>docbench::WebAddress</name>
+    <message>
+        <source>Type the address without the password; you will be asked for it. Addresses are remembered and listed, and a password is not for that.</source>
+        <translation>パスワードを含めずにアドレスを入力してください。パスワードは後で入力を求められます。アドレスは記憶されて一覧に表示されるため、パスワードを含めることはできません。</translation>
     </message>
 </context>
 </TS>

@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include "tests/support/apacheserver.h"
+#include "tests/support/faultserver.h"
 #include "tests/support/testdialogs.h"
 #include "tests/support/testenvironment.h"
 #include "tests/support/testlibrary.h"
@@ -21,6 +22,9 @@ private Q_SLOTS:
     void treePrintsJson();
     void aWebFolderPrintsTheSameTreeAsTheDisk();
     void aServerThatIsNotThereIsToldInWords();
+    void thePasswordGoesToTheNamedServerAlone_data();
+    void thePasswordGoesToTheNamedServerAlone();
+    void aPasswordOnTheCommandLineIsRefused();
     void treeNeedsNoDisplay();
     void aRelativePathIsTakenFromTheWorkingFolder();
     void aMissingDocumentEndsWithThree();
@@ -44,9 +48,12 @@ namespace {
 
 struct Run {
     explicit Run(const QStringList& arguments, const QString& folder = {},
-                 const QString& platform = QStringLiteral("offscreen")) {
+                 const QString& platform = QStringLiteral("offscreen"),
+                 const QMap<QString, QString>& variables = {}) {
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (auto variable = variables.begin(); variable != variables.end(); ++variable)
+            environment.insert(variable.key(), variable.value());
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), platform);
         process.setProcessEnvironment(environment);
         if (!folder.isEmpty())
@@ -133,6 +140,70 @@ void TestApp::aServerThatIsNotThereIsToldInWords() {
     const Run run({QStringLiteral("tree"), QStringLiteral("http://127.0.0.1:1/top.tfmasm")});
     QCOMPARE(run.code, 3);
     QVERIFY(run.err.count(QLatin1String("127.0.0.1:1")) > 1);  // not found, and why
+}
+
+void TestApp::thePasswordGoesToTheNamedServerAlone_data() {
+    QTest::addColumn<bool>("isRootLocal");
+    QTest::addColumn<bool>("isOtherNamed");  // in the environment
+    QTest::addColumn<bool>("isFirstTold");
+    QTest::addColumn<bool>("isOtherTold");
+    QTest::newRow("web document") << false << false << true << false;
+    QTest::newRow("local document") << true << false << false << false;
+    QTest::newRow("another server named") << false << true << false << false;
+    QTest::newRow("local document, server named") << true << true << false << true;
+}
+
+void TestApp::thePasswordGoesToTheNamedServerAlone() {
+    QFETCH(bool, isRootLocal);
+    QFETCH(bool, isOtherNamed);
+    QFETCH(bool, isFirstTold);
+    QFETCH(bool, isOtherTold);
+    QByteArray document;
+    const auto guarded = [&](const FaultServer::Request& request) -> FaultServer::Reply {
+        if (!request.headers.contains("authorization"))
+            return {.status = 401, .headers = {{"WWW-Authenticate", "Basic realm=\"docs\""}}};
+        return {.body = document};
+    };
+    const FaultServer first(guarded);
+    const FaultServer other(guarded);
+    TestLibrary library;
+    const QString top =
+        library.Make(QStringLiteral("top.tfmasm"), {{other.Url(QStringLiteral("evil.tfmprt"))}});
+    QFile file(top);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    document = file.readAll();
+    QMap<QString, QString> variables{
+        {QStringLiteral("DOCBENCH_WEB_USER"), QStringLiteral("ann")},
+        {QStringLiteral("DOCBENCH_WEB_PASSWORD"), QStringLiteral("x")}};
+    if (isOtherNamed)
+        variables.insert(QStringLiteral("DOCBENCH_WEB_SERVER"), other.Url());
+    const QString root = isRootLocal ? top : first.Url(QStringLiteral("top.tfmasm"));
+    const Run run({QStringLiteral("tree"), root}, {}, QStringLiteral("offscreen"), variables);
+    const auto isTold = [](const FaultServer& server) {
+        const QList<FaultServer::Request> requests = server.Requests();
+        return std::any_of(requests.begin(), requests.end(), [](const auto& request) {
+            return request.headers.contains("authorization");
+        });
+    };
+    QCOMPARE(isTold(first), isFirstTold);
+    QCOMPARE(isTold(other), isOtherTold);
+    QCOMPARE(run.err.contains(QLatin1String("not the server that you named")), !isOtherTold);
+}
+
+void TestApp::aPasswordOnTheCommandLineIsRefused() {
+    const FaultServer server([](const FaultServer::Request&) { return FaultServer::Reply{}; });
+    const QString url = server.Url(QStringLiteral("top.tfmasm"))
+                            .replace(QStringLiteral("://"), QStringLiteral("://ann:secret@"));
+    for (const QStringList& words :
+         {QStringList{QStringLiteral("tree"), url},
+          QStringList{QStringLiteral("rename"), QStringLiteral("/w/a.tfmprt"), url},
+          QStringList{QStringLiteral("--quit-when-shown"), url}}) {
+        const Run run(words);
+        QCOMPARE(run.code, 2);
+        QVERIFY2(run.err.contains(QStringLiteral("without the password")), qPrintable(run.err));
+        QVERIFY(!run.err.contains(QStringLiteral("secret")));
+    }
+    QVERIFY(server.Requests().isEmpty());
 }
 
 void TestApp::treeNeedsNoDisplay() {

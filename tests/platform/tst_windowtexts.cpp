@@ -139,7 +139,8 @@ void TestWindowTexts::everyLanguageHasTheWordsOfTheProgram() {
     QProcess reader;
     reader.start(QStringLiteral(DOCBENCH_LUPDATE),
                  {QStringLiteral("-silent"), sources + QStringLiteral("/platform"),
-                  QStringLiteral("-I"), sources, QStringLiteral("-ts"), found});
+                  sources + QStringLiteral("/services"), QStringLiteral("-I"), sources,
+                  QStringLiteral("-ts"), found});
     QVERIFY(reader.waitForFinished());
     QCOMPARE(reader.exitCode(), 0);
 
