@@ -12,21 +12,20 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QProcess>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QThread>
-#include <algorithm>
 #include <cstdio>
-#include <functional>
 
 #include "bench/ratios.h"
+#include "bench/timing.h"
 #include "docmodel/access.h"
 #include "docmodel/builder.h"
 #include "docmodel/referenceindex.h"
 
 using namespace docbench;
+using bench::Best;
 
 namespace {
 
@@ -39,21 +38,6 @@ bool gKept = true;
 
 void Compare(const char* label, double what, double against, double limit) {
     gKept &= bench::PrintRatio(label, what / against, limit);
-}
-
-double Milliseconds(const std::function<void()>& work) {
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return double(timer.nsecsElapsed()) / 1e6;
-}
-
-// The shortest of some runs: what others do on the machine at the same time only adds to it.
-double Best(int rounds, const std::function<void()>& work) {
-    double best = Milliseconds(work);
-    for (int i = 1; i < rounds; ++i)
-        best = std::min(best, Milliseconds(work));
-    return best;
 }
 
 struct Found {

@@ -112,8 +112,10 @@ void HelpBrowser::SetPages(HelpPages pages) {
     ListFound(search_->text());
 }
 
-void HelpBrowser::ShowPage(const QString& file) {
-    const QUrl url = QUrl::fromLocalFile(file);
+void HelpBrowser::ShowPage(const QString& file, const QString& section) {
+    QUrl url = QUrl::fromLocalFile(file);
+    if (!section.isEmpty())
+        url.setFragment(section);
     if (url != page_->source())
         page_->setSource(url, QTextDocument::HtmlResource);
 }
@@ -155,7 +157,8 @@ void HelpBrowser::Follow(const QUrl& page) {
     const QSignalBlocker quiet(list_);
     QTreeWidgetItem* fitting = nullptr;
     for (QTreeWidgetItemIterator item(list_); *item; ++item) {
-        if (QUrl::fromLocalFile((*item)->data(0, kFileRole).toString()) == page)
+        if (QUrl::fromLocalFile((*item)->data(0, kFileRole).toString()) ==
+            page.adjusted(QUrl::RemoveFragment))
             fitting = *item;
     }
     list_->setCurrentItem(fitting);  // a page that is not listed leaves no other entry marked

@@ -44,12 +44,12 @@ void HelpWindow::Open(const QString& helpFile, const QString& topic) {
     if (!Has(helpFile))
         return ReportMissing(helpFile);
     HelpPages pages(FolderOfPages(helpFile));
-    const QString page =
-        IsCompiled(helpFile) ? pages.PageOf(topic) : QFileInfo(helpFile).absoluteFilePath();
+    const QString page = IsCompiled(helpFile) ? pages.PageOf(topic.section(u'#', 0, 0))
+                                              : QFileInfo(helpFile).absoluteFilePath();
     if (!window_)
         window_ = new HelpBrowser;
     window_->SetPages(std::move(pages));
-    window_->ShowPage(page);
+    window_->ShowPage(page, topic.section(u'#', 1));
     window_->show();
     window_->raise();
     window_->activateWindow();

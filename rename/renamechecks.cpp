@@ -1,5 +1,7 @@
 #include "rename/renamechecks.h"
 
+#include "cells/celllist.h"
+#include "rename/renamelist.h"
 #include "services/dialogs.h"
 #include "services/docaccess.h"
 #include "services/documentlibrary.h"
@@ -9,6 +11,7 @@
 #include "services/seams.h"
 #include "services/texts.h"
 #include "services/webcopies.h"
+#include "shell/locking.h"
 
 namespace docbench {
 namespace {
@@ -102,7 +105,41 @@ bool ValidateNewName(const RenameSubject& subject, const QString& target) {
     return true;
 }
 
+void RefuseRow(CellList& list, int row) {
+    list.Change(row, [](CellRow& changed) {
+        changed.cells[kHolderColumn].foreColor = kColorRed;
+        changed.ticked = false;
+    });
+}
+
+bool CheckHolder(CellList& list, int row, const RenameSubject& subject, const QString& newName,
+                 const std::function<void(int row)>& show) {
+    const QString holder = ReadRow(list.At(row)).holder;
+    if (SameName(newName, holder)) {
+        show(row);
+        RefuseRow(list, row);
+        return Refuse(Format(subject.replaces ? Text::HolderIsReplacement : Text::HolderHasNewName,
+                             holder, newName));
+    }
+    if (IsWebPath(holder))
+        return true;
+    if (!MayBeWritten(holder)) {
+        RefuseRow(list, row);
+        return false;
+    }
+    if (list.At(row).cells[kHolderColumn].foreColor != kColorNormal)
+        list.Change(
+            row, [](CellRow& changed) { changed.cells[kHolderColumn].foreColor = kColorNormal; });
+    return true;
+}
+
 }  // namespace
+
+QString WithExtension(const QString& newName, const QString& oldName) {
+    if (newName.isEmpty() || DocTypeOf(newName) != DocType::None)
+        return newName;
+    return newName + u'.' + ExtensionOf(oldName);
+}
 
 bool ValidateTarget(const RenameSubject& subject, const QString& target,
                     const ShowStatusLine& showStatus) {
@@ -119,6 +156,22 @@ bool ValidateTarget(const RenameSubject& subject, const QString& target,
     if (IsWebPath(target) || FileExists(target))
         return true;
     return Refuse(Format(Text::TargetMissing, target));
+}
+
+bool MayBeWritten(const QString& document) {
+    const int code = Documents().MakeDocumentFile()->GetAccessState(LocalCopyOf(document));
+    if (code != 0)
+        ReportAccessState(code, document);
+    return code == 0;
+}
+
+bool CheckHolders(CellList& list, const RenameSubject& subject, const QString& newName,
+                  const std::function<void(int row)>& show) {
+    for (int row = 0; row < list.Count(); ++row) {
+        if (list.At(row).ticked && !CheckHolder(list, row, subject, newName, show))
+            return false;
+    }
+    return true;
 }
 
 }  // namespace docbench

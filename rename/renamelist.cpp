@@ -37,23 +37,27 @@ bool IsReadOnlyFile(const QString& path) {
            !(file.permissions() & (QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther));
 }
 
-void AddHolder(CellList& list, const FoundReference& found, const QString& holder,
-               const QString& relation, const QString& local, const QString& parent) {
+CellRow HolderRow(const FoundReference& found, const QString& holder, const QString& relation,
+                  const QString& local, const QString& parent) {
     CellRow row{.cells = {{},
-                          {.text = FileNameOf(holder), .tag = holder, .toolTip = holder},
+                          {.text = {}, .tag = holder, .toolTip = holder},
                           {.text = relation},
                           {.text = QString::number(found.referenceIndex)},
                           {.text = found.inContext ? QStringLiteral("1") : QStringLiteral("0"),
                            .tag = QString::fromLatin1(found.stamp.toHex())}},
                 .ticked = true};
-    if (holder.compare(parent, Qt::CaseInsensitive) == 0)
-        row.cells[kRelationColumn].tag = QStringLiteral("M");
-    ShowHolder(list, row);
     if (IsReadOnlyFile(local)) {
         row.ticked = false;
-        MarkReadOnly(list, row);
+        row.cells[kRelationColumn].tag = QStringLiteral("R");
+        row.cells[kHolderColumn].foreColor = kColorRed;
+    } else if (holder.compare(parent, Qt::CaseInsensitive) == 0) {
+        row.cells[kRelationColumn].tag = QStringLiteral("M");
     }
-    list.Append(std::move(row));
+    return row;
+}
+
+RowBatch RenameRows(CellList& list) {
+    return RowBatch(list, [&list](CellRow& row) { ShowHolder(list, row); });
 }
 
 void ShowHolder(const CellList& list, CellRow& row) {

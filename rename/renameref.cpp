@@ -22,7 +22,6 @@
 #include "services/webcopies.h"
 #include "services/webdocument.h"
 #include "shell/languagefonts.h"
-#include "shell/locking.h"
 #include "shell/openurlfrm.h"
 #include "shell/pathdrop.h"
 #include "shell/picturestore.h"
@@ -40,10 +39,6 @@ QString Labelled(const QString& text) {
 
 void Warn(const QString& text) {
     gSeams.dialogs->Box(text, Dialogs::Icon::Exclamation, gAppTitle);
-}
-
-int AccessStateOf(const QString& path) {
-    return Documents().MakeDocumentFile()->GetAccessState(LocalCopyOf(path));
 }
 
 }  // namespace
@@ -129,15 +124,24 @@ void renameRef::SetPartName(const QString& displayName, const QString& fullName,
     ui_->lblProgress->clear();
     ShowMode();
     whereUsedDone = isReplace;
-    if (subject_.fullName.isEmpty()) {
-        EnableCommands(false);
-        ui_->oldname->clear();
-        ui_->newname->clear();
-        return;
-    }
+    if (subject_.fullName.isEmpty())
+        return Blank();
     ErrorState errors;
-    if (!errors.Run([this] { Load(); }))
-        Warn(Format(Text::RenameLoadFailed, fullName, errors.Description()));
+    if (errors.Run([this] { Load(); }))
+        return;
+    // The fields stay as they are, but what they show is not what would be renamed.
+    subject_.fullName.clear();
+    EnableCommands(false);
+    ui_->newname->setEnabled(false);
+    Warn(Format(Text::RenameLoadFailed, fullName, errors.Description()));
+}
+
+void renameRef::Blank() {
+    subject_.fullName.clear();
+    ui_->oldname->clear();
+    ui_->newname->clear();
+    ui_->newname->setEnabled(false);
+    EnableCommands(false);
 }
 
 void renameRef::ShowMode() {
@@ -154,19 +158,11 @@ void renameRef::Load() {
                          (!replaceMode && !MayBeWritten(subject_.fullName));
     if (refused) {
         ui_->whereused->hide();
-        EnableCommands(false);
-        return;
+        return Blank();
     }
     FillForm();
     if (replaceMode && parentDocument.isEmpty() && !IsWebPath(subject_.fullName))
         Browse();
-}
-
-bool renameRef::MayBeWritten(const QString& path) {
-    const int code = AccessStateOf(path);
-    if (code != 0)
-        ReportAccessState(code, path);
-    return code == 0;
 }
 
 void renameRef::FillForm() {
@@ -201,7 +197,16 @@ void renameRef::OnNewNameChanged() {
     if (ui_->newname->text().isEmpty())
         ui_->apply->setEnabled(false);
     else if (!ui_->oldname->text().isEmpty())
-        ui_->apply->setEnabled(true);
+        EnableApply();
+}
+
+// The name may be typed while a search runs; it can be applied once that has ended.
+void renameRef::EnableApply() {
+    ui_->apply->setEnabled(!IsSearching() && !subject_.fullName.isEmpty());
+}
+
+bool renameRef::IsSearching() const {
+    return ui_->Findnow->text() == Tr(Text::Stop);
 }
 
 QString renameRef::Target() const {
@@ -210,8 +215,9 @@ QString renameRef::Target() const {
 
 void renameRef::AddExtension() {
     const QString name = ui_->newname->text();
-    if (!name.isEmpty() && DocTypeOf(name) == DocType::None)
-        ui_->newname->setText(name + u'.' + ExtensionOf(ui_->oldname->text()));
+    const QString whole = WithExtension(name, ui_->oldname->text());
+    if (whole != name)
+        ui_->newname->setText(whole);
 }
 
 bool renameRef::eventFilter(QObject* watched, QEvent* event) {
@@ -240,7 +246,7 @@ void renameRef::CheckEntered() {
         ValidateTarget(subject_, Target(), [this](const QString& text) { SetStatusText(text); });
     checking_ = false;
     if (ok)
-        ui_->apply->setEnabled(true);
+        EnableApply();
     else
         RefuseTarget();
 }
@@ -259,7 +265,7 @@ void renameRef::CheckDropped(const QString& path) {
     if (!ok)
         return RefuseTarget();
     ui_->newname->setText(path);
-    ui_->apply->setEnabled(true);
+    EnableApply();
 }
 
 void renameRef::Browse() {
@@ -287,7 +293,7 @@ void renameRef::Browse() {
 
 // The button is its own stop.
 void renameRef::FindOrStop() {
-    if (ui_->Findnow->text() == Tr(Text::Stop))
+    if (IsSearching())
         cancelSearch = true;
     else
         Search();
@@ -303,29 +309,30 @@ void renameRef::Search() {
     const QPointer<renameRef> alive(this);
     const int load = loads_;
     const auto gone = [alive, load] { return !alive || alive->loads_ != load; };
-    const RenameSearch search{.document = subject_.fullName,
-                              .parent = parentDocument,
-                              .kinds = {.references = scope_.references,
-                                        .inContext = scope_.inContext,
-                                        .mirrored = scope_.mirrored},
-                              .subfolders = scope_.subfolders,
-                              .status = [this](const QString& text) { SetStatusText(text); },
-                              .yield = [] { QCoreApplication::processEvents(); },
-                              .cancelled = [alive, gone] { return gone() || alive->cancelSearch; },
-                              .progress =
-                                  [this](const SearchCounts& counts) {
-                                      ShowSearchProgress(*ui_->lblProgress, counts,
-                                                         ui_->lv->List().Count());
-                                  }};
+    const RenameSearch search{
+        .document = subject_.fullName,
+        .parent = parentDocument,
+        .kinds = {.references = scope_.references,
+                  .inContext = scope_.inContext,
+                  .mirrored = scope_.mirrored},
+        .subfolders = scope_.subfolders,
+        .status = [this](const QString& text) { SetStatusText(text); },
+        .yield = [] { QCoreApplication::processEvents(); },
+        .cancelled = [alive, gone] { return gone() || alive->cancelSearch; },
+        .progress = [this](const SearchCounts& counts,
+                           int rows) { ShowSearchProgress(*ui_->lblProgress, counts, rows); }};
     ErrorState errors;
-    errors.Run([&] { SearchHolders(search, searchFolders, list); });
+    RowBatch rows = RenameRows(list);
+    bool searched = false;
+    errors.Assign(searched, [&] { return SearchHolders(search, searchFolders, rows); });
     if (gone())
         return;
+    rows.Flush();
     if (errors.Failed())
         Warn(Format(Text::SearchError, errors.Description()));
     SetStatusText(Format(Text::HoldersFound, QString::number(list.Count())));
     ui_->lv->FitColumns();
-    whereUsedDone = true;
+    whereUsedDone = searched || whereUsedDone;
     EnableCommands(true);
     if (ui_->newname->text().isEmpty())
         ui_->apply->setEnabled(false);
@@ -386,7 +393,8 @@ bool renameRef::PrepareApply() {
         ui_->newname->setSelection(0, kLongestSelection);
         return false;
     }
-    if (!CheckRows())
+    if (!CheckHolders(ui_->lv->List(), subject_, ui_->newname->text(),
+                      [this](int row) { ui_->lv->SelectRow(row); }))
         return false;
     if (!parentDocument.isEmpty() && !IsWebPath(parentDocument) && !MayBeWritten(parentDocument)) {
         EnableCommands(false);
@@ -406,45 +414,6 @@ bool renameRef::AskForSearch() {
     whereUsedDone = answer == Dialogs::Answer::No;
     ui_->reset->setEnabled(whereUsedDone);
     return whereUsedDone;
-}
-
-bool renameRef::CheckRows() {
-    for (int row = 0; row < ui_->lv->List().Count(); ++row) {
-        if (ui_->lv->List().At(row).ticked && !CheckRow(row))
-            return false;
-    }
-    return true;
-}
-
-bool renameRef::CheckRow(int row) {
-    const QString holder = ui_->lv->List().At(row).cells[kHolderColumn].tag;
-    const QString newName = ui_->newname->text();
-    if (FileNameOf(newName).compare(FileNameOf(holder), Qt::CaseInsensitive) == 0) {
-        ui_->lv->SelectRow(row);
-        RefuseRow(row);
-        Warn(replaceMode ? Format(Text::HolderIsReplacement, holder, newName)
-                         : Format(Text::HolderHasNewName, holder, newName));
-        return false;
-    }
-    if (IsWebPath(holder))
-        return true;
-    const int code = AccessStateOf(holder);
-    if (code != 0) {
-        RefuseRow(row);
-        ReportAccessState(code, holder);
-        return false;
-    }
-    ui_->lv->List().Change(
-        row, [](CellRow& changed) { changed.cells[kHolderColumn].foreColor = kColorNormal; });
-    return true;
-}
-
-// The next try goes on without it.
-void renameRef::RefuseRow(int row) {
-    ui_->lv->List().Change(row, [](CellRow& changed) {
-        changed.cells[kHolderColumn].foreColor = kColorRed;
-        changed.ticked = false;
-    });
 }
 
 void renameRef::Apply() {

@@ -44,11 +44,13 @@ private:
     void ConnectControls();
     void ShowMode();
     void Load();
-    bool MayBeWritten(const QString& path);  // else a box says why not
     void FillForm();
+    void Blank();
     void EnableCommands(bool enabled);
     void EnableInput(bool enabled);
     void OnNewNameChanged();
+    void EnableApply();
+    bool IsSearching() const;
     QString Target() const;
     void AddExtension();
     void RefuseTarget();
@@ -66,9 +68,6 @@ private:
 
     bool PrepareApply();
     bool AskForSearch();
-    bool CheckRows();
-    bool CheckRow(int row);
-    void RefuseRow(int row);
     void Apply();
     void OpenSelected();
     void ExportRows();

@@ -1,10 +1,11 @@
 #include "rename/renamesearch.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QSet>
 
-#include "cells/celllist.h"
 #include "panes/folderwalk.h"
+#include "panes/rowbatch.h"
 #include "rename/renamelist.h"
 #include "services/documentlibrary.h"
 #include "services/folderlists.h"
@@ -20,8 +21,8 @@ namespace {
 
 class HolderSearch {
 public:
-    HolderSearch(const RenameSearch& search, CellList& list)
-        : search_(search), list_(list), finder_(Documents().MakeFolderSearcher()) {}
+    HolderSearch(const RenameSearch& search, RowBatch& rows)
+        : search_(search), rows_(rows), finder_(Documents().MakeFolderSearcher()) {}
 
     void SearchFolders(const QString& folder, bool deep);
 
@@ -30,9 +31,10 @@ private:
     void Take(const FoundReference& found);
 
     const RenameSearch& search_;
-    CellList& list_;
+    RowBatch& rows_;
     std::unique_ptr<FolderSearcher> finder_;
-    QSet<QString> listed_;  // holders with their relations
+    QHash<QString, QString> urls_;  // of the local copies
+    QSet<QString> listed_;          // holders with their relations
 };
 
 void HolderSearch::SearchFolders(const QString& folder, bool deep) {
@@ -57,6 +59,8 @@ void HolderSearch::SearchFolders(const QString& folder, bool deep) {
 
 void HolderSearch::SearchFolder(const QString& folder) {
     finder_->ClearResults();
+    if (gWebDocument)
+        urls_ = UrlsOfCopies();
     finder_->FindReferences({.pattern = folder + QStringLiteral("/*.*"),
                              .fullPathFlag = 0,
                              .baseName = BaseNameOf(search_.document),
@@ -66,13 +70,14 @@ void HolderSearch::SearchFolder(const QString& folder) {
     const int count = finder_->GetResultCount();
     for (int i = 0; i < count; ++i)
         Take(finder_->GetResult(i));
-    search_.progress(finder_->GetSearchCounts());
+    rows_.Offer();
+    search_.progress(finder_->GetSearchCounts(), rows_.Count());
 }
 
 void HolderSearch::Take(const FoundReference& found) {
     QString holder = found.document;
     if (gWebDocument)
-        FindUrlOfCopy(found.document, holder);
+        holder = urls_.value(QDir::cleanPath(holder), holder);
     // A component is a plain reference whatever the types.
     const QString label = RelationLabel(holder, search_.document);
     if (search_.kinds.Drops(label))
@@ -82,23 +87,26 @@ void HolderSearch::Take(const FoundReference& found) {
     if (listed_.contains(key))
         return;
     listed_.insert(key);
-    AddHolder(list_, found, holder, shown, found.document, search_.parent);
+    rows_.Add(HolderRow(found, holder, shown, found.document, search_.parent));
 }
 
 }  // namespace
 
-bool SearchHolders(const RenameSearch& search, const QString& folders, CellList& list) {
+bool SearchHolders(const RenameSearch& search, const QString& folders, RowBatch& rows) {
     const QString expanded = ExpandFolderList(folders);
     QStringList entries = expanded.split(u';', Qt::SkipEmptyParts);
     if (entries.isEmpty())
         return false;
     entries = RemoveDuplicates(entries);
-    HolderSearch holders(search, list);
+    HolderSearch holders(search, rows);
     for (const QString& entry : entries) {
+        if (search.cancelled())
+            break;
         QString mirror;
         if (!IsWebPath(expanded)) {
             if (QFileInfo(entry).isDir())
-                holders.SearchFolders(FolderNoSeparator(entry + u'/'), search.subfolders);
+                holders.SearchFolders(QDir::cleanPath(QFileInfo(entry).absoluteFilePath()),
+                                      search.subfolders);
         } else if (MirrorWebFolder(expanded, mirror)) {
             holders.SearchFolders(FolderNoSeparator(mirror), false);
         }

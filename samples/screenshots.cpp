@@ -4,13 +4,19 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDirIterator>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTabWidget>
 #include <QTextStream>
 #include <functional>
 
+#include "app/consoledialogs.h"
 #include "app/theme.h"
 #include "frame/frmabout.h"
 #include "frame/maincontrol.h"
 #include "platform/desktopseams.h"
+#include "rename/renameref.h"
 #include "services/helpviewer.h"
 #include "services/language.h"
 #include "services/seams.h"
@@ -64,6 +70,36 @@ QWidget* WhereUsedOfAScrew(Stage& stage) {
     return &stage.frame;
 }
 
+// After a search for the holders of a part.
+Scene RenamingAPlate(bool replaces) {
+    return [replaces](Stage& stage) -> QWidget* {
+        stage.frame.SetCurrentFunction(replaces ? QStringLiteral("REPLACE")
+                                                : QStringLiteral("RENAME"));
+        const QString plate = stage.library.filePath(QStringLiteral("cover/cover plate.tfmprt"));
+        const QString unit = stage.library.filePath(QStringLiteral("cover/cover unit.tfmasm"));
+        auto* pane = stage.Find<renameRef>("renameRef");
+        pane->SetPartName({}, plate, plate + u';' + unit, replaces);
+        pane->findChild<QLineEdit*>(QStringLiteral("newname"))
+            ->setText(replaces ? stage.library.filePath(QStringLiteral("cover/bearing cap.tfmprt"))
+                               : QStringLiteral("ribbed cover plate.tfmprt"));
+        pane->findChild<QPushButton*>(QStringLiteral("Findnow"))->click();
+        return &stage.frame;
+    };
+}
+
+// Of a part that has configurations.
+Scene PropertiesTab(int tab) {
+    return [tab](Stage& stage) -> QWidget* {
+        stage.frame.Shell().OpenPath(
+            stage.library.filePath(QStringLiteral("fasteners/hex screw M6.tfmprt")));
+        stage.frame.SetCurrentFunction(QStringLiteral("SUMMARY"));
+        stage.Find<QTabWidget>("TabStrip1")->setCurrentIndex(tab);
+        if (auto* list = stage.Find<QListWidget>("List1"); tab == 2 && list->count() > 0)
+            list->setCurrentRow(0);
+        return &stage.frame;
+    };
+}
+
 QWidget* About(Stage& stage) {
     auto* box = new frmAbout(&stage.frame);
     box->show();
@@ -87,6 +123,11 @@ const std::vector<std::pair<QString, Scene>>& Scenes() {
         {QStringLiteral("about"), About},
         {QStringLiteral("help"), Help},
         {QStringLiteral("where-used"), WhereUsedOfAScrew},
+        {QStringLiteral("rename"), RenamingAPlate(false)},
+        {QStringLiteral("replace"), RenamingAPlate(true)},
+        {QStringLiteral("properties-summary"), PropertiesTab(0)},
+        {QStringLiteral("properties-custom"), PropertiesTab(1)},
+        {QStringLiteral("properties-configuration"), PropertiesTab(2)},
     };
     return scenes;
 }
@@ -117,6 +158,8 @@ int main(int argc, char* argv[]) {
     }
     ApplyTheme(qEnvironmentVariable("DOCBENCH_THEME", QStringLiteral("light")));
     const DesktopSeams seams;
+    ConsoleDialogs unattended;
+    gSeams.dialogs = &unattended;
     const QDir folder(arguments[2]);
     QDir().mkpath(folder.path());
     const QStringList wanted = arguments.mid(3);

@@ -49,6 +49,9 @@ struct CustomProperty {
     int type = 0;    // 0 text, 1 date, 2 number, 3 yes or no
 };
 
+// What of a DocumentInfo a stamp can be asked for.
+enum class PropertyGroup { Summary, Custom };
+
 // The tables that a stamp can be asked for.
 enum class Table { Components, ExternalReferences, Configurations, Hyperlinks };
 
@@ -93,10 +96,10 @@ public:
     virtual QString GetLockedBy() = 0;
     virtual void SetLockedBy(const QString& user) = 0;
 
-    // Digest of the properties as they were at Open or when this object last wrote them (summary
-    // and custom properties each for itself), leaving out dates, last saver and lock. Two equal
-    // stamps mean that nobody changed the properties in between.
-    virtual QByteArray GetStamp() = 0;
+    // Digest of the summary or of the custom properties as they were at Open or when this object
+    // last wrote them, leaving out dates, last saver and lock. Two equal stamps mean that nobody
+    // changed them in between.
+    virtual QByteArray GetStamp(PropertyGroup group) = 0;
 };
 
 // One document's references, configurations and hyperlinks. Positions count from 0 and hold until

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <QFile>
+#include <QFileInfo>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -23,8 +24,20 @@ namespace {
             .arg(from, to, reason));
 }
 
-// Where the disk can't rename without replacing: a second name fails if there is such a file.
-bool LinkAndUnlink(const char* from, const char* to) {
+// The holders are written next, and synced one by one: their new path must not outlast a power
+// failure that the file's new name doesn't.
+void SyncFolderOf(const QString& path) {
+    const int folder = open(QFile::encodeName(QFileInfo(path).path()).constData(),
+                            O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder < 0)
+        return;
+    fsync(folder);  // where it can't be done there is nothing else to do
+    close(folder);
+}
+
+}  // namespace
+
+bool MoveByLink(const char* from, const char* to) {
     if (link(from, to) != 0)
         return false;
     if (unlink(from) == 0)
@@ -35,18 +48,16 @@ bool LinkAndUnlink(const char* from, const char* to) {
     return false;
 }
 
-}  // namespace
-
 void FileSystem::Move(const QString& from, const QString& to) {
     const QByteArray source = QFile::encodeName(from);
     const QByteArray target = QFile::encodeName(to);
-    if (renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) ==
-        0)
-        return;
-    if (errno != EINVAL && errno != ENOSYS)
+    const bool moved = renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(),
+                                 RENAME_NOREPLACE) == 0;
+    if (!moved && errno != EINVAL && errno != ENOSYS)
         Fail(from, to, errno);
-    if (!LinkAndUnlink(source.constData(), target.constData()))
+    if (!moved && !MoveByLink(source.constData(), target.constData()))
         Fail(from, to, errno);
+    SyncFolderOf(to);
 }
 
 FileSystem& Files() {

@@ -14,6 +14,10 @@ public:
     virtual void Move(const QString& from, const QString& to);
 };
 
+// The move for disks that can't rename without replacing: a second name, then the first one goes.
+// False with errno set, and nothing changed, when there is such a file already.
+bool MoveByLink(const char* from, const char* to);
+
 // The disk, unless a test has put something else in its place (gSeams.files).
 FileSystem& Files();
 

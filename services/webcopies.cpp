@@ -113,6 +113,13 @@ bool FindUrlOfCopy(const QString& local, QString& url) {
     return false;
 }
 
+QHash<QString, QString> UrlsOfCopies() {
+    QHash<QString, QString> urls;
+    for (auto copy = gWebCopies.cbegin(); copy != gWebCopies.cend(); ++copy)
+        urls.insert(QDir::cleanPath(*copy), copy.key());
+    return urls;
+}
+
 bool MirrorWebFolder(const QString& url, QString& localFolder) {
     localFolder =
         gTempFolder + QStringLiteral("/tessaformadocbench/");  // doubled: as others compare it

@@ -3,6 +3,7 @@
 #include <QMenu>
 
 #include "cells/celltree.h"
+#include "editors/propertiesbox.h"
 #include "rename/renameref.h"
 #include "services/dialogs.h"
 #include "services/docaccess.h"
@@ -65,6 +66,7 @@ UserControl1::UserControl1(QWidget* parent)
     UseWebFolders();
     PrepareScratch();
     AddPane(PaneId::Preview, new PreviewPane);
+    AddPane(PaneId::Properties, new PropertiesBox);
     AddPane(PaneId::WhereUsed, new whereUsed);
     AddPane(PaneId::Rename, new renameRef);
 }

@@ -26,6 +26,12 @@ private Q_SLOTS:
     void aMissingDocumentEndsWithThree();
     void aDocumentThatIsNoneEndsWithThree();
     void aChildThatCannotBeReadEndsWithOne();
+    void aDryRunPrintsThePlanAndTouchesNothing();
+    void renameMovesTheFileAndUpdatesItsHolders();
+    void withNobodyToAskItNeedsYes();
+    void aHolderThatIsLeftOutEndsWithOne();
+    void replaceMovesNothing();
+    void everyCommandHasItsHelp();
     void wrongUsageEndsWithTwo_data();
     void wrongUsageEndsWithTwo();
     void helpAndVersionArePrinted();
@@ -92,8 +98,10 @@ void TestApp::treePrintsJson() {
     const Run run({QStringLiteral("tree"), SmallAssembly(library), QStringLiteral("--json")});
     QCOMPARE(run.code, 0);
     QJsonParseError error;
-    const QJsonObject top = QJsonDocument::fromJson(run.out.toUtf8(), &error).object();
+    const QJsonObject all = QJsonDocument::fromJson(run.out.toUtf8(), &error).object();
     QCOMPARE(error.errorString(), QJsonParseError().errorString());
+    QCOMPARE(all[QLatin1String("version")].toInt(), 1);
+    const QJsonObject top = all[QLatin1String("tree")].toObject();
     QCOMPARE(top[QLatin1String("label")].toString(), QStringLiteral("top "));
     const QJsonArray children = top[QLatin1String("children")].toArray();
     QCOMPARE(children.size(), 3);
@@ -165,6 +173,84 @@ void TestApp::aChildThatCannotBeReadEndsWithOne() {
     QVERIFY(run.err.contains(QLatin1String("broken.tfmasm")));
 }
 
+void TestApp::aDryRunPrintsThePlanAndTouchesNothing() {
+    TestLibrary library;
+    SmallAssembly(library);
+    const QString pin = library.Path("pin.tfmprt");
+    const QString bolt = library.Path("nail.tfmprt");
+    const Run run({"rename", "--dry-run", "--root", library.Path("top.tfmasm"), pin, "nail"});
+    QCOMPARE(run.code, 0);
+    const QStringList lines = run.out.split(u'\n', Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 4);  // headers, the move, the parent, the parent's row
+    QCOMPARE(lines[1].simplified(), pin + " move " + bolt);
+    QCOMPARE(lines[2].simplified(), library.Path("left.tfmasm") + " component 1 " + bolt);
+    QCOMPARE(lines[3], lines[2]);
+    QVERIFY(QFile::exists(pin) && !QFile::exists(bolt));
+    const Run json({"rename", "--dry-run", "--json", pin, "nail"});
+    const QJsonObject plan = QJsonDocument::fromJson(json.out.toUtf8()).object();
+    QCOMPARE(plan["version"].toInt(), 1);
+    QCOMPARE(plan["command"].toString(), QString("rename"));
+    QCOMPARE(plan["changes"][0]["to"].toString(), bolt);
+    const Run null({"rename", "--dry-run", "-0", pin, "nail"});
+    QCOMPARE(null.out.split(QChar('\0')),
+             QStringList({pin, library.Path("left.tfmasm"), QString()}));
+}
+
+void TestApp::renameMovesTheFileAndUpdatesItsHolders() {
+    TestLibrary library;
+    SmallAssembly(library);
+    const Run run({"rename", "--yes", "--json", "--", "pin.tfmprt", "nail"}, library.Folder());
+    QCOMPARE(run.code, 0);
+    QVERIFY(!QFile::exists(library.Path("pin.tfmprt")));
+    const QJsonObject result = QJsonDocument::fromJson(run.out.toUtf8()).object();
+    QCOMPARE(result["updated"].toInt(), 1);
+    QCOMPARE(result["rows"][0]["status"].toString(), QString("updated"));
+    const Run tree({"tree", library.Path("top.tfmasm")});
+    QVERIFY(tree.out.contains("nail  (6 x)  " + library.Path("nail.tfmprt")));
+}
+
+void TestApp::withNobodyToAskItNeedsYes() {
+    TestLibrary library;
+    SmallAssembly(library);
+    const Run run({"rename", library.Path("pin.tfmprt"), "nail"});
+    QCOMPARE(run.code, 2);
+    QVERIFY(run.err.contains("--yes"));
+    QVERIFY(QFile::exists(library.Path("pin.tfmprt")));
+}
+
+void TestApp::aHolderThatIsLeftOutEndsWithOne() {
+    TestLibrary library;
+    SmallAssembly(library);
+    const QString left = library.Path("left.tfmasm");
+    QVERIFY(QFile::setPermissions(left, QFile::ReadOwner | QFile::ReadUser));
+    const Run run({"rename", "--yes", library.Path("pin.tfmprt"), "nail"});
+    QCOMPARE(run.code, 1);
+    QVERIFY(run.out.contains("left out"));
+    QVERIFY(QFile::exists(library.Path("nail.tfmprt")));
+}
+
+void TestApp::replaceMovesNothing() {
+    TestLibrary library;
+    SmallAssembly(library);
+    const QString nail = library.Make("nail.tfmprt");
+    const Run run({"replace", "--yes", library.Path("pin.tfmprt"), nail});
+    QCOMPARE(run.code, 0);
+    QVERIFY(QFile::exists(library.Path("pin.tfmprt")));
+    QVERIFY(Run({"tree", library.Path("top.tfmasm")}).out.contains("nail  (6 x)"));
+    const Run refused({"replace", "--yes", nail, library.Path("top.tfmasm")});
+    QCOMPARE(refused.code, 1);  // of another type
+}
+
+void TestApp::everyCommandHasItsHelp() {
+    const QString list = Run({"--help"}).out;
+    for (const char* name : {"tree", "rename", "replace"}) {
+        QVERIFY2(list.contains(QString("\n  %1 ").arg(name)), name);
+        const Run help({name, "--help"});
+        QCOMPARE(help.code, 0);
+        QVERIFY(help.out.startsWith(QString("Usage: docbench %1 [options] ").arg(name)));
+    }
+}
+
 void TestApp::wrongUsageEndsWithTwo_data() {
     QTest::addColumn<QStringList>("arguments");
     const auto row = [](const char* name, const QStringList& arguments) {
@@ -189,7 +275,7 @@ void TestApp::wrongUsageEndsWithTwo() {
 void TestApp::helpAndVersionArePrinted() {
     const Run help({QStringLiteral("--help")});
     QCOMPARE(help.code, 0);
-    QVERIFY(help.out.contains(QLatin1String("docbench tree FILE")));
+    QVERIFY(help.out.contains(QLatin1String("\n  tree ")));
     const Run version({QStringLiteral("--version")});
     QCOMPARE(version.code, 0);
     QVERIFY(version.out.startsWith(QLatin1String("docbench ")));
