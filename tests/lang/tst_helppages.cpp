@@ -115,6 +115,8 @@ void TestHelpPages::aTranslatedPageHasThePartsAndLinksOfTheEnglishOne() {
         const QString translated = ReadPage(PagesOf(language), name);
         QVERIFY2(parts(translated) == parts(english), qPrintable(name));
         QVERIFY2(links(translated) == links(english), qPrintable(name));
+        QVERIFY2(AllOf(translated, "id=\"([^\"]+)\"") == AllOf(english, "id=\"([^\"]+)\""),
+                 qPrintable(name));
         QVERIFY2(AllOf(translated, "<pre>(.*?)</pre>") == AllOf(english, "<pre>(.*?)</pre>"),
                  qPrintable(name));
     }
