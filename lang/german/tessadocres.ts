@@ -411,7 +411,7 @@
     <message id="tessadocres-88">
         <source></source>
         <extracomment>FindInContext. Check box: find parts that refer to the assembly in context.</extracomment>
-        <translation>&amp;Kontextreferenzen</translation>
+        <translation>Im &amp;Kontext</translation>
     </message>
     <message id="tessadocres-89">
         <source></source>

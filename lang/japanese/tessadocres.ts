@@ -411,7 +411,7 @@
     <message id="tessadocres-88">
         <source></source>
         <extracomment>FindInContext. Check box: find parts that refer to the assembly in context.</extracomment>
-        <translation>コンテキスト内参照(&amp;X)</translation>
+        <translation>コンテキスト内(&amp;X)</translation>
     </message>
     <message id="tessadocres-89">
         <source></source>

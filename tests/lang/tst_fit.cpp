@@ -84,6 +84,8 @@ class TestFit : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    // The same measure on every machine: the font that the set-up installs.
+    void initTestCase() { QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9)); }
     void noCaptionOfThePanesIsCutOff_data();
     void noCaptionOfThePanesIsCutOff();
     void theAboutBoxHoldsItsTexts_data() { Languages(); }
