@@ -1,5 +1,8 @@
 #include "editors/editreference.h"
 
+#include <QHeaderView>
+#include <algorithm>
+
 #include "editors/referencelist.h"
 #include "frame/desccontrol.h"
 #include "panes/celllistview.h"
@@ -78,6 +81,7 @@ void editReference::Layout() {
     if (width() >= kWideEnough)
         ui_->lv->List().SetHeader(kReferencePath, {.text = ReferencePathColumn().longCaption,
                                                    .tag = QStringLiteral("L")});
+    MakeRoom();
 }
 
 void editReference::SetPartName(const QString& displayName, const QString& path) {
@@ -91,8 +95,22 @@ void editReference::SetPartName(const QString& displayName, const QString& path)
     ErrorState errors;
     errors.Run([this] { ListReferences(ui_->lv->List(), partfilename); });
     ui_->lv->FitColumns();
+    MakeRoom();
     if (errors.Failed())
         Warn(Format(Text::ReferenceListError, errors.Description()));
+}
+
+// Long paths give way, so that the facts behind them are in sight.
+void editReference::MakeRoom() {
+    constexpr int kLeast = 160;
+    QHeaderView& header = *ui_->lv->header();
+    const int last = header.count() - 1;
+    header.resizeSection(last, header.sectionSizeHint(last));  // at least; it takes what is left
+    const int others = header.sectionPosition(last) - header.sectionSize(kReferencePath) +
+                       header.sectionSizeHint(last);
+    const int room = std::max(ui_->lv->viewport()->width() - others, kLeast);
+    if (header.sectionSize(kReferencePath) > room)
+        ui_->lv->setColumnWidth(kReferencePath, room);
 }
 
 // By the shown text: in the short form that is the bare file name.

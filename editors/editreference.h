@@ -34,6 +34,7 @@ protected:
 private:
     void SetCaptions();
     void Layout();
+    void MakeRoom();
     void OpenSelected();
     void ExportRows();
 

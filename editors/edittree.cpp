@@ -102,6 +102,14 @@ void EditTree::BeginEdit(int node, const std::optional<QString>& text) {
         editor_->setText(*text);
 }
 
+// F2 edits the node before it is a shortcut of the window.
+bool EditTree::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_F2 && textToEdit_(SelectedNode()))
+        event->accept();
+    return QTreeView::event(event);
+}
+
 // The edit box hands on what it has no use for, such as Enter.
 void EditTree::keyPressEvent(QKeyEvent* event) {
     const int node = state() == EditingState ? 0 : SelectedNode();

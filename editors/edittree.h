@@ -39,6 +39,7 @@ Q_SIGNALS:
     void MenuRequested(QPoint globalPosition);  // right button released, or the menu key
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;

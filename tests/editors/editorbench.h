@@ -13,6 +13,7 @@
 #include "docmodel/builder.h"
 #include "editors/edittree.h"
 #include "services/language.h"
+#include "services/scratch.h"
 #include "services/seams.h"
 #include "services/texts.h"
 #include "tests/support/fakepane.h"
@@ -25,6 +26,7 @@ template <typename EditorPane>
 struct EditorBench {
     explicit EditorBench(const char* tree) : treeName(QLatin1String(tree)) {
         LoadResources();
+        PrepareScratch();  // for local copies of web documents
         pane = std::make_unique<EditorPane>();
         pane->SetStatusBarControl(&status);
         pane->resize(600, 400);

@@ -1,11 +1,9 @@
 // The configuration editor, through its widgets.
 
 #include <QAction>
-#include <QElapsedTimer>
 #include <QFile>
 
 #include "docmodel/package.h"
-#include "editors/configurationtree.h"
 #include "editors/editconfig.h"
 #include "services/documentlibrary.h"
 #include "services/webdocument.h"
@@ -351,7 +349,6 @@ private Q_SLOTS:
         for (int number = 0; number < 1000; ++number)
             names.append(QString("c%1").arg(number, 4, 10, QLatin1Char('0')));
         bench.Load(names);
-        ConfigurationTree rules(bench.Tree());
         for (int node = 2; node <= 1001; ++node) {
             if (node % 2 == 0)
                 bench.View()->DeletePressed(node);

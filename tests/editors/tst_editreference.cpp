@@ -12,6 +12,7 @@
 #include "editors/referencelist.h"
 #include "panes/celllistview.h"
 #include "services/language.h"
+#include "services/scratch.h"
 #include "services/seams.h"
 #include "services/spreadsheet.h"
 #include "services/texts.h"
@@ -45,6 +46,7 @@ public:
 struct Bench {
     Bench() {
         LoadResources();
+        PrepareScratch();  // for local copies of web documents
         pin = library.Make("pin.tfmprt");
         sub = library.Make("sub.tfmasm", {{pin}});
         lost = library.Path("lost.tfmprt");
