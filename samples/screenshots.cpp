@@ -13,6 +13,7 @@
 
 #include "app/consoledialogs.h"
 #include "app/theme.h"
+#include "editors/edittree.h"
 #include "frame/frmabout.h"
 #include "frame/maincontrol.h"
 #include "platform/desktopseams.h"
@@ -29,6 +30,9 @@
 namespace {
 
 using namespace docbench;
+
+// A part with configurations and hyperlinks.
+const QString kScrew = QStringLiteral("fasteners/hex screw M6.tfmprt");
 
 // What a scene works with: the frame on screen with the main assembly open, and the library.
 struct Stage {
@@ -92,8 +96,7 @@ Scene RenamingAPlate(bool replaces) {
 // Of a part that has configurations.
 Scene PropertiesTab(int tab) {
     return [tab](Stage& stage) -> QWidget* {
-        stage.frame.Shell().OpenPath(
-            stage.library.filePath(QStringLiteral("fasteners/hex screw M6.tfmprt")));
+        stage.frame.Shell().OpenPath(stage.library.filePath(kScrew));
         stage.frame.SetCurrentFunction(QStringLiteral("SUMMARY"));
         stage.Find<QTabWidget>("TabStrip1")->setCurrentIndex(tab);
         if (auto* list = stage.Find<QListWidget>("List1"); tab == 2 && list->count() > 0)
@@ -109,6 +112,30 @@ QWidget* Setup(Stage& stage) {
     stage.Find<FolderListEditor>("lists")->ReloadNames();
     stage.frame.SetCurrentFunction(QStringLiteral("SETUP"));
     stage.Find<QLineEdit>("wuKey")->setText(QStringLiteral("Vendors"));
+    return &stage.frame;
+}
+
+// Edits that are not saved yet.
+QWidget* Configurations(Stage& stage) {
+    stage.frame.Shell().OpenPath(stage.library.filePath(kScrew));
+    stage.frame.SetCurrentFunction(QStringLiteral("EDIT"));
+    auto* tree = stage.Find<EditTree>("tvwconfig");
+    Q_EMIT tree->EditEnded(2, QStringLiteral("M6x25"));
+    Q_EMIT tree->DeletePressed(3);
+    return &stage.frame;
+}
+
+QWidget* Hyperlinks(Stage& stage) {
+    stage.frame.Shell().OpenPath(stage.library.filePath(kScrew));
+    stage.frame.SetCurrentFunction(QStringLiteral("LINK"));
+    Q_EMIT stage.Find<EditTree>("tvwhlink")
+        ->EditEnded(3, QStringLiteral("https://www.example.org/fasteners/m6-zinc"));
+    return &stage.frame;
+}
+
+QWidget* References(Stage& stage) {
+    stage.frame.Shell().OpenPath(stage.library.filePath(QStringLiteral("missing.tfmasm")));
+    stage.frame.SetCurrentFunction(QStringLiteral("REF"));
     return &stage.frame;
 }
 
@@ -138,6 +165,9 @@ const std::vector<std::pair<QString, Scene>>& Scenes() {
         {QStringLiteral("rename"), RenamingAPlate(false)},
         {QStringLiteral("replace"), RenamingAPlate(true)},
         {QStringLiteral("setup"), Setup},
+        {QStringLiteral("configurations"), Configurations},
+        {QStringLiteral("hyperlinks"), Hyperlinks},
+        {QStringLiteral("references"), References},
         {QStringLiteral("properties-summary"), PropertiesTab(0)},
         {QStringLiteral("properties-custom"), PropertiesTab(1)},
         {QStringLiteral("properties-configuration"), PropertiesTab(2)},
@@ -153,6 +183,7 @@ bool Shoot(const QString& name, const Scene& scene, const QString& document, con
     Stage stage{frame, QFileInfo(document).dir()};
     QWidget* seen = scene(stage);
     QApplication::processEvents();
+    QApplication::processEvents();  // what the first round has put off
     const QString file = folder.filePath(name + QStringLiteral(".png"));
     if (!seen || !seen->grab().save(file))
         return false;

@@ -4,6 +4,9 @@
 #include <QMenu>
 
 #include "cells/celltree.h"
+#include "editors/editconfig.h"
+#include "editors/edithyperlink.h"
+#include "editors/editreference.h"
 #include "editors/propertiesbox.h"
 #include "rename/renameref.h"
 #include "services/dialogs.h"
@@ -69,6 +72,9 @@ UserControl1::UserControl1(QWidget* parent)
     PrepareScratch();
     AddPane(PaneId::Preview, new PreviewPane);
     AddPane(PaneId::Properties, new PropertiesBox);
+    AddPane(PaneId::References, new editReference);
+    AddPane(PaneId::Configurations, new editConfig);
+    AddPane(PaneId::Hyperlinks, new EditHyperLink);
     AddPane(PaneId::WhereUsed, new whereUsed);
     AddPane(PaneId::Rename, new renameRef);
     auto* options = new setup;

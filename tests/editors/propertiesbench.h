@@ -17,6 +17,7 @@
 #include "editors/propertyrows.h"
 #include "panes/celllistview.h"
 #include "services/language.h"
+#include "services/scratch.h"
 #include "services/seams.h"
 #include "services/texts.h"
 #include "tests/support/fakepane.h"
@@ -32,6 +33,7 @@ enum PropertySetIndex { kConfigurationSet = 1, kCustomSet = 2 };
 struct PropertiesBench {
     PropertiesBench() {
         LoadResources();
+        PrepareScratch();  // for local copies of web documents
         pin = library.Make(QStringLiteral("pin.tfmprt"));
         docmodel::DocumentBuilder document = docmodel::DocumentBuilder::Edit(pin);
         document.SetTitle(QStringLiteral("Pin"));

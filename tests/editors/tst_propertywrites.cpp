@@ -137,6 +137,7 @@ private Q_SLOTS:
         ChangeElsewhere(bench.pin, [&](DocumentBuilder& document) {
             document.SetCustomProperty("Moment", moment);
             document.SetCustomProperty("Third", 1.0 / 3);
+            document.SetCustomProperty("Grouped", 1.234);  // more than a thousand in German
             document.SetCustomProperty("Lines", "one\ntwo\u00a0three");
             document.SetComments(author);
             document.SetKeywords(author);
