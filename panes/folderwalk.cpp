@@ -3,7 +3,7 @@
 namespace docbench {
 
 void FolderWalk::Run(const QString& folder) const {
-    if (yields == WalkYields::AtSubfolders && stopped())
+    if (stopped())
         return;
     if (entering)
         entering(folder);

@@ -34,9 +34,6 @@ RenameRow ReadRow(const CellRow& row);
 void PrepareRenameList(CellList& list);
 PathColumn RenameHolderColumn();
 
-// A file on the disk without the right to be written.
-bool IsReadOnlyFile(const QString& path);
-
 // Adds the row of a reference. `holder` is where the document really is, `local` its file; `parent`
 // is the document whose row must stay ticked.
 void AddHolder(CellList& list, const FoundReference& found, const QString& holder,

@@ -1,0 +1,41 @@
+#include "copy/referencemap.h"
+
+#include "copy/copylist.h"
+
+namespace docbench {
+
+ReferenceMap::ReferenceMap(const CopyPlan& plan) : plan_(plan) {
+    for (int row = 0; row < plan.copies.Count(); ++row) {
+        const QString source = ReadCopyRow(plan.copies.At(row)).source;
+        exact_[source].append(row);
+        folded_[source.toUpper()].append(row);
+    }
+}
+
+std::optional<QString> ReferenceMap::NewPathOf(const QString& path) const {
+    const QString working = plan_.replacedFiles.value(path, path);
+    const auto exact = exact_.constFind(working);
+    if (exact != exact_.cend() || plan_.source == working) {
+        if (exact != exact_.cend()) {
+            if (const auto copy = FirstCopy(*exact))
+                return copy;
+        }
+        return plan_.source == working ? std::optional(plan_.target) : std::nullopt;
+    }
+    const auto folded = folded_.constFind(working.toUpper());
+    if (folded != folded_.cend()) {
+        if (const auto copy = FirstCopy(*folded))
+            return copy;
+    }
+    return plan_.source.toUpper() == working.toUpper() ? std::optional(plan_.target) : std::nullopt;
+}
+
+std::optional<QString> ReferenceMap::FirstCopy(const QList<int>& rows) const {
+    for (const int row : rows) {
+        if (HasCopy(plan_.copies.At(row)))
+            return ReadCopyRow(plan_.copies.At(row)).target;
+    }
+    return std::nullopt;
+}
+
+}  // namespace docbench

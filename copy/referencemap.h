@@ -1,0 +1,32 @@
+// Which copy a reference is to lead to.
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QString>
+#include <optional>
+
+#include "copy/copyplan.h"
+
+namespace docbench {
+
+// Made once the sources of all rows are settled. Which rows have a copy is read anew at each
+// question.
+class ReferenceMap {
+public:
+    explicit ReferenceMap(const CopyPlan& plan);
+
+    // The copy of the document at `path`: of the first row with a copy, else the document's own.
+    // None: it was not copied, and the reference stays. Letter case counts only where documents
+    // differ in nothing else.
+    std::optional<QString> NewPathOf(const QString& path) const;
+
+private:
+    std::optional<QString> FirstCopy(const QList<int>& rows) const;
+
+    const CopyPlan& plan_;
+    QHash<QString, QList<int>> exact_;   // rows by the path of their source
+    QHash<QString, QList<int>> folded_;  // the same in capitals
+};
+
+}  // namespace docbench
