@@ -25,7 +25,7 @@ struct HolderSearch {
     // Is given each reference of a wanted kind; `holder` is where its document really is,
     // `relation` what the reference is by the types of the two.
     std::function<void(const FoundReference& found, const QString& holder, const QString& relation)>
-        take;
+        take = {};
 
     // Looks in the folders (";" between them, named lists expanded). False when there are none.
     bool Run(const QString& folders) const;
