@@ -162,10 +162,11 @@ private:
     bool BringToDisk() {
         QStringList folders;
         for (auto made = files_.madeFrom.cbegin(); made != files_.madeFrom.cend(); ++made) {
-            const QString folder = FolderOf(made.key());
-            if (!IsWebPath(folder) && !folders.contains(folder))
-                folders.append(folder);
+            if (!IsWebPath(made.key()))
+                folders.append(FolderOf(made.key()));
         }
+        folders.removeDuplicates();
+        folders.sort();
         ErrorState errors;
         if (errors.Run([&] { Files().Sync(folders); }))
             return true;
