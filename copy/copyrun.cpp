@@ -98,8 +98,7 @@ private:
             result_.end = End::Cancelled;
         else if (!outcome.message.isEmpty())
             result_.end = End::SourceFailed;
-        else
-            result_.target.toolTip = outcome.reason;
+        files_.sourceReason = outcome.reason;
         return result_.end == End::Done;
     }
 

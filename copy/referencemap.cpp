@@ -1,6 +1,7 @@
 #include "copy/referencemap.h"
 
 #include "copy/copylist.h"
+#include "services/paths.h"
 
 namespace docbench {
 
@@ -20,7 +21,7 @@ std::optional<QString> ReferenceMap::NewPathOf(const QString& path) const {
             if (const auto copy = FirstCopy(*exact))
                 return copy;
         }
-        return plan_.source == working ? std::optional(plan_.target) : std::nullopt;
+        return plan_.source == working ? OwnCopy() : std::nullopt;
     }
     const auto folded = folded_.constFind(working.toUpper());
     if (folded != folded_.cend()) {
@@ -32,10 +33,25 @@ std::optional<QString> ReferenceMap::NewPathOf(const QString& path) const {
 
 std::optional<QString> ReferenceMap::FirstCopy(const QList<int>& rows) const {
     for (const int row : rows) {
-        if (HasCopy(plan_.copies.At(row)))
-            return ReadCopyRow(plan_.copies.At(row)).target;
+        const QString target = ReadCopyRow(plan_.copies.At(row)).target;
+        if (HasCopy(plan_.copies.At(row)) && IsThere(target))
+            return target;
     }
     return std::nullopt;
+}
+
+std::optional<QString> ReferenceMap::OwnCopy() const {
+    return IsThere(plan_.target) ? std::optional(plan_.target) : std::nullopt;
+}
+
+// What is on a server was uploaded a moment ago.
+bool ReferenceMap::IsThere(const QString& target) const {
+    const auto known = there_.constFind(target);
+    if (known != there_.cend())
+        return *known;
+    const bool there = IsWebPath(target) || FileExists(target);
+    there_.insert(target, there);
+    return there;
 }
 
 }  // namespace docbench

@@ -65,6 +65,10 @@ private:
     Next RewriteRow(int row);
     Next RewriteParent(int row);
 
+    // A copy that was not made is the reason why it can't be opened.
+    const QString& ReasonFor(const QString& error) const {
+        return files_.sourceReason.isEmpty() ? error : files_.sourceReason;
+    }
     DocumentFile& OpenCopy(const QString& source, const QString& target, bool sameTables);
     void RequireMadeFrom(const QString& source, const QString& target) const;
     bool PointToCopies(DocumentFile& writing, const QString& source, ErrorState& errors);
@@ -184,12 +188,13 @@ Rewriter::Next Rewriter::RewriteSource() {
     DocumentFile* writing = nullptr;
     bool modified = false;
     if (!errors.Run([&] { writing = &OpenCopy(plan_.source, plan_.target, sameTables); })) {
-        if (!AskToGoOn(Format(Text::CopyNotOpened, plan_.target), errors.Description()))
+        if (!AskToGoOn(Format(Text::CopyNotOpened, plan_.target),
+                       ReasonFor(errors.Description())))
             return Next::End;
     } else {
         modified = PointToCopies(*writing, plan_.source, errors);
     }
-    const QString untold = errors.Description();
+    const QString untold = ReasonFor(errors.Description());
     errors.Clear();
     if (modified)
         errors.Run([&] {

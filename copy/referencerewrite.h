@@ -15,6 +15,7 @@ namespace docbench {
 struct CopiedFiles {
     QHash<QString, QString> madeFrom;  // the copies that were made: target (its key) to source
     CopyStatus sourceStatus = CopyStatus::Copied;  // of the document itself
+    QString sourceReason;                          // why it failed, if it did
 };
 
 struct CopyProgress {

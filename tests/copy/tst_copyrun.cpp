@@ -149,8 +149,9 @@ private Q_SLOTS:
         QCOMPARE(desk.Target(3).foreColor, kColorBlue);
         QCOMPARE(result.copied, 2);
         QVERIFY(!QFile::exists(desk.Copy("x_pin.tfmprt")));
-        // The rewriting finds no such file, and asks.
+        // The rewriting finds no such file, and asks; no reference leads to nowhere.
         QCOMPARE(desk.dialogs.boxes.size(), 2);
+        QCOMPARE(desk.Holds(desk.Copy("x_left.tfmasm")), QString("pin.tfmprt"));
         QVERIFY(desk.dialogs.boxes[0].startsWith(gStrings[73].section("%s", 0, 0) + desk.pin));
         QVERIFY(desk.Target(3).toolTip.startsWith(gStrings[69].section("%s", 0, 0)));
     }
@@ -321,10 +322,12 @@ private Q_SLOTS:
     }
 
     void aReferenceInOtherLetterCaseLeadsToTheCopyAllTheSame() {
-        CopyDesk desk;
+        Desk desk;
         desk.List(desk.library.Make("top.tfmasm", {{desk.library.Make("pin.tfmprt")}}));
         desk.copies.Change(0, [](CellRow& row) { row.cells[kCopyTarget].foreColor = kColorBlue; });
         const CopyPlan plan = desk.Plan();
+        desk.Write(desk.Copy("x_pin.tfmprt"), "a copy");
+        desk.Write(desk.target, "a copy");
         const ReferenceMap map(plan);
         QCOMPARE(map.NewPathOf(desk.library.Path("PIN.tfmprt")),
                  std::optional(desk.Copy("x_pin.tfmprt")));
