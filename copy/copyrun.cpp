@@ -95,7 +95,7 @@ private:
         files_.sourceStatus = outcome.status;
         result_.message = outcome.message;
         if (outcome.status == CopyStatus::Cancelled)
-            result_.end = End::Cancelled;
+            result_.end = End::CancelledAtOnce;
         else if (!outcome.message.isEmpty())
             result_.end = End::SourceFailed;
         files_.sourceReason = outcome.reason;

@@ -11,10 +11,11 @@ namespace docbench {
 
 struct CopyResult {
     enum class End {
-        Done,          // to the end, whatever failed on the way
-        Cancelled,     // at a question whether to overwrite; no reference was rewritten
-        SourceFailed,  // the document itself was not copied; `message` says why
-        Gone,          // whoever showed the lists is gone, and so are they
+        Done,             // to the end, whatever failed on the way
+        CancelledAtOnce,  // at the question whether to overwrite the document's own target
+        Cancelled,        // at a later one; no reference was rewritten
+        SourceFailed,     // the document itself was not copied; `message` says why
+        Gone,             // whoever showed the lists is gone, and so are they
     };
     End end = End::Done;
     int copied = 0;  // rows; the document itself does not count

@@ -188,8 +188,7 @@ Rewriter::Next Rewriter::RewriteSource() {
     DocumentFile* writing = nullptr;
     bool modified = false;
     if (!errors.Run([&] { writing = &OpenCopy(plan_.source, plan_.target, sameTables); })) {
-        if (!AskToGoOn(Format(Text::CopyNotOpened, plan_.target),
-                       ReasonFor(errors.Description())))
+        if (!AskToGoOn(Format(Text::CopyNotOpened, plan_.target), ReasonFor(errors.Description())))
             return Next::End;
     } else {
         modified = PointToCopies(*writing, plan_.source, errors);

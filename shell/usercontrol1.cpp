@@ -3,6 +3,7 @@
 #include <QMenu>
 
 #include "cells/celltree.h"
+#include "copy/copyref.h"
 #include "rename/renameref.h"
 #include "services/dialogs.h"
 #include "services/docaccess.h"
@@ -67,6 +68,7 @@ UserControl1::UserControl1(QWidget* parent)
     AddPane(PaneId::Preview, new PreviewPane);
     AddPane(PaneId::WhereUsed, new whereUsed);
     AddPane(PaneId::Rename, new renameRef);
+    AddPane(PaneId::Copy, new copyRef);
 }
 
 UserControl1::~UserControl1() {

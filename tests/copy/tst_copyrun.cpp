@@ -205,7 +205,7 @@ private Q_SLOTS:
         desk.Write(desk.target, "somebody's work");
         desk.dialogs.answer = [](const QString&) { return Answer::Cancel; };
         const CopyResult result = desk.Run();
-        QVERIFY(result.end == CopyResult::End::Cancelled);
+        QVERIFY(result.end == CopyResult::End::CancelledAtOnce);
         QCOMPARE(BytesOf(desk.target), QByteArray("somebody's work"));
         QCOMPARE(QDir(desk.folder).entryList(QDir::Files), QStringList("x_top.tfmasm"));
     }

@@ -108,7 +108,7 @@ public:
     QString Saved(const QString& path) const {
         if (path != whole)
             return path;
-        const QString copy = library.Folder() + "/../" + FileNameOf(library.Folder()) + ".saved";
+        const QString copy = saved.filePath("whole.tfmasm");
         QFile file(copy);
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes[whole]) < 0)
             qFatal("can't save");
@@ -137,6 +137,7 @@ public:
 
     QString top, whole, drawing;
     QHash<QString, QByteArray> bytes;
+    QTemporaryDir saved;
 };
 
 // A disk whose n-th copy fails or is told something before it.
