@@ -4,10 +4,13 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDirIterator>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QTextStream>
 #include <functional>
 
 #include "app/theme.h"
+#include "copy/editdialog.h"
 #include "frame/frmabout.h"
 #include "frame/maincontrol.h"
 #include "platform/desktopseams.h"
@@ -64,6 +67,26 @@ QWidget* WhereUsedOfAScrew(Stage& stage) {
     return &stage.frame;
 }
 
+// The main assembly with its references and users.
+QWidget* CopyList(Stage& stage) {
+    stage.frame.SetCurrentFunction(QStringLiteral("COPY"));
+    stage.Find<QCheckBox>("children")->setChecked(true);
+    stage.Find<QCheckBox>("whereused")->setChecked(true);
+    auto* pane = stage.Find<QWidget>("copyRef");
+    pane->findChild<QLineEdit*>(QStringLiteral("prefix"))->setText(QStringLiteral("B-"));
+    pane->findChild<QPushButton*>(QStringLiteral("Findnow"))->click();
+    return &stage.frame;
+}
+
+QWidget* ReplaceInTargets(Stage& stage) {
+    CopyList(stage);
+    auto* form = new editDialog(&stage.frame);
+    form->findChild<QLineEdit*>(QStringLiteral("FindtextBox"))->setText(QStringLiteral("B-"));
+    form->findChild<QLineEdit*>(QStringLiteral("replaceTextBox"))->setText(QStringLiteral("C-"));
+    form->show();
+    return form;
+}
+
 QWidget* About(Stage& stage) {
     auto* box = new frmAbout(&stage.frame);
     box->show();
@@ -87,6 +110,8 @@ const std::vector<std::pair<QString, Scene>>& Scenes() {
         {QStringLiteral("about"), About},
         {QStringLiteral("help"), Help},
         {QStringLiteral("where-used"), WhereUsedOfAScrew},
+        {QStringLiteral("copy"), CopyList},
+        {QStringLiteral("copy-replace"), ReplaceInTargets},
     };
     return scenes;
 }
