@@ -240,7 +240,7 @@ void copyRef::BuildCopyList(const QString& path) {
     mRowFolders = result.rowFolders;
     mMissingCount = result.missing;
     ui_->lblProgress->clear();
-    ui_->lv_0->FitColumns();
+    FitLists();
     SetStatusText(Format(Text::CopyRows, Copies().Count(), mMissingCount));
 }
 
@@ -282,6 +282,15 @@ void copyRef::ShowLists() {
     ui_->Frame2->setVisible(parents);
     ui_->Picture2->setVisible(copies || parents);
     ui_->Frame1->setVisible(!copies && !parents);
+}
+
+// Source and target side by side, however long they are; the parents' columns as they need.
+void copyRef::FitLists() {
+    ui_->lv_1->FitColumns();
+    ui_->lv_0->FitColumns();
+    const int room = ui_->lv_0->viewport()->width() - ui_->lv_0->columnWidth(kCopyTick);
+    for (const int column : {int(kCopySource), int(kCopyTarget)})
+        ui_->lv_0->setColumnWidth(column, qMin(ui_->lv_0->columnWidth(column), room * 2 / 5));
 }
 
 void copyRef::OnChildren(bool ticked) {
@@ -355,7 +364,7 @@ void copyRef::SearchParents() {
     if (gone())
         return;
     SetStatusText(Format(Text::HoldersFound, Parents().Count()));
-    ui_->lv_1->FitColumns();
+    FitLists();
     EnablePaneControls(true);
     ui_->apply->setEnabled(!FolderText().isEmpty());
     ui_->reset->setEnabled(Parents().Count() > 0);

@@ -59,6 +59,7 @@ private:
     void InitLists();
     void ConnectControls();
     void ShowLists();
+    void FitLists();
     void EnablePaneControls(bool enabled);
     void EnableListButtons();
     void ShowTargetControls(bool visible);
@@ -123,8 +124,8 @@ private:
     bool running_ = false;
     std::optional<Load> pending_;  // came while a copy was running
     int loads_ = 0;                // counts up with each document, so that a walk knows its own
-    QElapsedTimer sinceDrawn_;  // the progress
-    bool drawn_ = false;        // since a row was brought into view
+    QElapsedTimer sinceDrawn_;     // the progress
+    bool drawn_ = false;           // since a row was brought into view
 };
 
 }  // namespace docbench

@@ -70,9 +70,9 @@ QWidget* WhereUsedOfAScrew(Stage& stage) {
 // The main assembly with its references and users.
 QWidget* CopyList(Stage& stage) {
     stage.frame.SetCurrentFunction(QStringLiteral("COPY"));
-    stage.Find<QCheckBox>("children")->setChecked(true);
-    stage.Find<QCheckBox>("whereused")->setChecked(true);
     auto* pane = stage.Find<QWidget>("copyRef");
+    for (const char* box : {"children", "whereused"})
+        pane->findChild<QCheckBox*>(QLatin1String(box))->setChecked(true);
     pane->findChild<QLineEdit*>(QStringLiteral("prefix"))->setText(QStringLiteral("B-"));
     pane->findChild<QPushButton*>(QStringLiteral("Findnow"))->click();
     return &stage.frame;
