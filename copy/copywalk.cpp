@@ -20,9 +20,11 @@ namespace docbench {
 namespace {
 
 struct Reference {
-    QString fileName;
     QString path;
     bool isComponent;
+    bool missing;
+    QString relativeFolder;
+    CellRow row;
 };
 
 // What the list needs to know of a document, as far as it could be read.
@@ -40,18 +42,58 @@ QString FileNameFrom(const QString& name, const QString& extension) {
 // Reads each document once, and looks once for each file.
 class KnownDocuments {
 public:
-    explicit KnownDocuments(const CopyWalk& walk) : walk_(walk) {}
+    explicit KnownDocuments(const CopyWalk& walk) : walk_(walk), base_(FolderOf(walk.document)) {}
 
     const Document& Of(const QString& path) {
         std::shared_ptr<Document>& known = documents_[path];
-        if (!known) {
-            if (walk_.progress)
-                walk_.progress(int(documents_.size()) - 1, path);
-            known = std::make_shared<Document>();
-            ErrorState untold;  // a missing document has its red row; another one none below it
+        if (known)
+            return *known;
+        if (walk_.progress)
+            walk_.progress(int(documents_.size()) - 1, path);
+        known = std::make_shared<Document>();
+        ErrorState untold;  // a missing document has its red row; another one none below it
+        if (IsThere(path))
             untold.Run([&] { Read(path, *known); });
-        }
         return *known;
+    }
+
+private:
+    void Read(const QString& path, Document& document) {
+        const auto file = Documents().MakeDocumentFile();
+        file->Open(LocalCopyOf(path));
+        const QString webFolder = IsWebPath(path) ? UrlFolder(path) : QString();
+        const bool isPart = DocTypeOf(path) == DocType::Part;
+        const int components = file->GetComponentCount();
+        const int externals = file->GetExternalReferenceCount();
+        for (int i = 0; i < components; ++i) {
+            const ComponentRow row = file->GetComponent(i, webFolder);
+            document.references.push_back(
+                MakeReference(FileNameFrom(row.name, row.extension), row.path, true));
+        }
+        for (int i = 0; i < externals; ++i) {
+            const ExternalRow row = file->GetExternalReference(i, webFolder);
+            // In context: the part was made in that assembly and does not consist of it.
+            if (!isPart || DocTypeOf(row.path) != DocType::Assembly)
+                document.references.push_back(
+                    MakeReference(FileNameFrom(row.name, row.extension), row.path, false));
+        }
+        document.complete = true;
+    }
+
+    Reference MakeReference(const QString& fileName, const QString& path, bool isComponent) {
+        const QString relative = RelativeFolder(base_, path);
+        const QString name = relative + CopyName(walk_.affixes, fileName);
+        // Behind a web folder, only that of a component is an address's own separator; the others
+        // are sent as one.
+        const bool backslash = !isComponent && IsWebPath(walk_.targetFolder);
+        const QString target =
+            backslash ? walk_.targetFolder + u'\\' + name : TargetIn(walk_.targetFolder, name);
+        const bool missing = !IsThere(path);
+        return {.path = path,
+                .isComponent = isComponent,
+                .missing = missing,
+                .relativeFolder = relative,
+                .row = MakeCopyRow(fileName, path, target, missing)};
     }
 
     bool IsThere(const QString& path) {
@@ -63,29 +105,8 @@ public:
         return there;
     }
 
-private:
-    static void Read(const QString& path, Document& document) {
-        const auto file = Documents().MakeDocumentFile();
-        file->Open(LocalCopyOf(path));
-        const QString webFolder = IsWebPath(path) ? UrlFolder(path) : QString();
-        const bool isPart = DocTypeOf(path) == DocType::Part;
-        const int components = file->GetComponentCount();
-        const int externals = file->GetExternalReferenceCount();
-        for (int i = 0; i < components; ++i) {
-            const ComponentRow row = file->GetComponent(i, webFolder);
-            document.references.push_back({FileNameFrom(row.name, row.extension), row.path, true});
-        }
-        for (int i = 0; i < externals; ++i) {
-            const ExternalRow row = file->GetExternalReference(i, webFolder);
-            // In context: the part was made in that assembly and does not consist of it.
-            if (!isPart || DocTypeOf(row.path) != DocType::Assembly)
-                document.references.push_back(
-                    {FileNameFrom(row.name, row.extension), row.path, false});
-        }
-        document.complete = true;
-    }
-
     const CopyWalk& walk_;
+    const QString base_;
     QHash<QString, std::shared_ptr<Document>> documents_;
     QHash<QString, bool> there_;
 };
@@ -95,7 +116,7 @@ private:
 class Walk {
 public:
     Walk(const CopyWalk& walk, CopyWalkResult& result)
-        : walk_(walk), result_(result), documents_(walk), base_(FolderOf(walk.document)) {}
+        : walk_(walk), result_(result), documents_(walk) {}
 
     std::vector<CellRow> Run() {
         Enter(walk_.document);
@@ -161,23 +182,14 @@ private:
     }
 
     void AddRow(const Reference& reference) {
-        const QString relative = RelativeFolder(base_, reference.path);
-        const QString name = relative + CopyName(walk_.affixes, reference.fileName);
-        // Behind a web folder, only that of a component is an address's own separator; the others
-        // are sent as one.
-        const bool backslash = !reference.isComponent && IsWebPath(walk_.targetFolder);
-        const QString target =
-            backslash ? walk_.targetFolder + u'\\' + name : TargetIn(walk_.targetFolder, name);
-        const bool missing = !documents_.IsThere(reference.path);
-        result_.missing += missing ? 1 : 0;
-        result_.rowFolders.append(relative);
-        rows_.push_back(MakeCopyRow(reference.fileName, reference.path, target, missing));
+        result_.missing += reference.missing ? 1 : 0;
+        result_.rowFolders.append(reference.relativeFolder);
+        rows_.push_back(reference.row);
     }
 
     const CopyWalk& walk_;
     CopyWalkResult& result_;
     KnownDocuments documents_;
-    const QString base_;
     std::vector<Level> levels_;
     QSet<QString> onTheWay_;  // the documents of `levels_`
     std::vector<CellRow> rows_;

@@ -18,7 +18,7 @@ inline constexpr int kMaximumCopyRows = 500'000;
 struct CopyWalk {
     QString document;      // path or address
     QString targetFolder;  // the same of where the copies go
-    Affixes affixes;
+    Affixes affixes = {};
     bool references = true;  // false: none are listed, the document alone is copied
     int maximumRows = kMaximumCopyRows;
     // Is told each document before it is read, and how many were read before; may be empty.
