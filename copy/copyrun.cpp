@@ -76,7 +76,7 @@ private:
 
     CopyOutcome Copy(const PlannedCopy& copy) {
         progress_.step(++done_, all_, copy.target);
-        const CopyOutcome outcome = copier_.Copy(copy.source, copy.target);
+        const CopyOutcome outcome = copier_.CopyOneFile(copy.source, copy.target);
         if (outcome.status == CopyStatus::Copied) {
             files_.madeFrom.insert(TargetKey(copy.target), copy.source);
             madeByFold_.insert(copy.target.toUpper(), copy.target);

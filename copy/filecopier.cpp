@@ -74,7 +74,7 @@ QString ParentFolderOf(const QString& path) {
 
 }  // namespace
 
-CopyOutcome FileCopier::Copy(const QString& source, const QString& target) {
+CopyOutcome FileCopier::CopyOneFile(const QString& source, const QString& target) {
     const bool toWeb = IsWebPath(target);
     if (!toWeb && !CreateFolderPath(FolderOf(target))) {
         const QString message = Format(Text::FolderNotMade, ParentFolderOf(target));

@@ -27,7 +27,7 @@ public:
 
     // Makes the target's folder where it is missing, asks before it overwrites, and leaves no part
     // of a file behind. The copy may be written, even if the source may not.
-    CopyOutcome Copy(const QString& source, const QString& target);
+    CopyOutcome CopyOneFile(const QString& source, const QString& target);
 
 private:
     CopyOutcome CopyAs(const QString& source, const QString& target);

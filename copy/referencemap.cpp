@@ -13,7 +13,7 @@ ReferenceMap::ReferenceMap(const CopyPlan& plan) : plan_(plan) {
     }
 }
 
-std::optional<QString> ReferenceMap::NewPathOf(const QString& path) const {
+std::optional<QString> ReferenceMap::MapReferencePath(const QString& path) const {
     const QString working = plan_.replacedFiles.value(path, path);
     const auto exact = exact_.constFind(working);
     if (exact != exact_.cend() || plan_.source == working) {

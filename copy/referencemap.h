@@ -19,7 +19,7 @@ public:
     // The copy of the document at `path`: of the first row with a copy, else the document's own.
     // None: it was not copied, and the reference stays. Letter case counts only where documents
     // differ in nothing else. A copy that is not on the disk, since making it failed, is none.
-    std::optional<QString> NewPathOf(const QString& path) const;
+    std::optional<QString> MapReferencePath(const QString& path) const;
 
 private:
     std::optional<QString> FirstCopy(const QList<int>& rows) const;

@@ -160,7 +160,8 @@ bool Rewriter::PointToCopies(DocumentFile& writing, const QString& source, Error
     errors.Assign(count, [&] { return sourceDoc_->GetComponentCount(); });
     for (int i = 0; i < count; ++i) {
         errors.Run([&] {
-            if (const auto path = map_.NewPathOf(sourceDoc_->GetComponent(i, webFolder).path)) {
+            if (const auto path =
+                    map_.MapReferencePath(sourceDoc_->GetComponent(i, webFolder).path)) {
                 writing.SetComponentPath(i, *path);
                 modified = true;
             }
@@ -171,7 +172,7 @@ bool Rewriter::PointToCopies(DocumentFile& writing, const QString& source, Error
     for (int i = 0; i < count; ++i) {
         errors.Run([&] {
             if (const auto path =
-                    map_.NewPathOf(sourceDoc_->GetExternalReference(i, webFolder).path)) {
+                    map_.MapReferencePath(sourceDoc_->GetExternalReference(i, webFolder).path)) {
                 writing.SetExternalReferencePath(i, *path);
                 modified = true;
             }
@@ -297,7 +298,7 @@ bool Rewriter::PointParent(DocumentFile& writing, const ParentRow& row, ErrorSta
         const QString path = row.external
                                  ? sourceDoc_->GetExternalReference(row.number, webFolder).path
                                  : sourceDoc_->GetComponent(row.number, webFolder).path;
-        const auto copy = map_.NewPathOf(path);
+        const auto copy = map_.MapReferencePath(path);
         if (!copy)
             return;
         if (row.external)

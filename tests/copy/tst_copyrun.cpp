@@ -329,10 +329,10 @@ private Q_SLOTS:
         desk.Write(desk.Copy("x_pin.tfmprt"), "a copy");
         desk.Write(desk.target, "a copy");
         const ReferenceMap map(plan);
-        QCOMPARE(map.NewPathOf(desk.library.Path("PIN.tfmprt")),
+        QCOMPARE(map.MapReferencePath(desk.library.Path("PIN.tfmprt")),
                  std::optional(desk.Copy("x_pin.tfmprt")));
-        QCOMPARE(map.NewPathOf(desk.library.Path("TOP.tfmasm")), std::optional(desk.target));
-        QCOMPARE(map.NewPathOf(desk.library.Path("other.tfmprt")), std::optional<QString>());
+        QCOMPARE(map.MapReferencePath(desk.library.Path("TOP.tfmasm")), std::optional(desk.target));
+        QCOMPARE(map.MapReferencePath(desk.library.Path("other.tfmprt")), std::optional<QString>());
     }
 
     void aCircleIsCopiedAsACircle() {
