@@ -1,8 +1,7 @@
 #include "rename/renamelist.h"
 
-#include <QFileInfo>
-
 #include "services/docaccess.h"
+#include "services/filesystem.h"
 #include "services/language.h"
 #include "services/paths.h"
 #include "services/texts.h"
@@ -28,13 +27,6 @@ void PrepareRenameList(CellList& list) {
                      {.text = Tr(Text::Position)},
                      {.text = Tr(Text::Type)}});
     SetLongForm(list, RenameHolderColumn(), false);
-}
-
-bool IsReadOnlyFile(const QString& path) {
-    const QFileInfo file(path);
-    // Asked by mode: who may do anything is told of write protection all the same.
-    return file.exists() &&
-           !(file.permissions() & (QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther));
 }
 
 CellRow HolderRow(const FoundReference& found, const QString& holder, const QString& relation,

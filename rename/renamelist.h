@@ -35,9 +35,6 @@ RenameRow ReadRow(const CellRow& row);
 void PrepareRenameList(CellList& list);
 PathColumn RenameHolderColumn();
 
-// A file on the disk without the right to be written.
-bool IsReadOnlyFile(const QString& path);
-
 // The row of a reference, without its text: RenameRows shows it. `holder` is where the document
 // really is, `local` its file; `parent` is the document whose row must stay ticked.
 CellRow HolderRow(const FoundReference& found, const QString& holder, const QString& relation,

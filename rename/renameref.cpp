@@ -15,6 +15,7 @@
 #include "services/documentlibrary.h"
 #include "services/errorstate.h"
 #include "services/exporttable.h"
+#include "services/filesystem.h"
 #include "services/language.h"
 #include "services/paths.h"
 #include "services/seams.h"

@@ -13,6 +13,7 @@
 
 #include "app/consoledialogs.h"
 #include "app/theme.h"
+#include "copy/editdialog.h"
 #include "editors/edittree.h"
 #include "frame/frmabout.h"
 #include "frame/maincontrol.h"
@@ -137,6 +138,27 @@ QWidget* References(Stage& stage) {
     stage.frame.Shell().OpenPath(stage.library.filePath(QStringLiteral("missing.tfmasm")));
     stage.frame.SetCurrentFunction(QStringLiteral("REF"));
     return &stage.frame;
+    return &stage.frame;
+}
+
+// The main assembly with its references and users.
+QWidget* CopyList(Stage& stage) {
+    stage.frame.SetCurrentFunction(QStringLiteral("COPY"));
+    auto* pane = stage.Find<QWidget>("copyRef");
+    for (const char* box : {"children", "whereused"})
+        pane->findChild<QCheckBox*>(QLatin1String(box))->setChecked(true);
+    pane->findChild<QLineEdit*>(QStringLiteral("prefix"))->setText(QStringLiteral("B-"));
+    pane->findChild<QPushButton*>(QStringLiteral("Findnow"))->click();
+    return &stage.frame;
+}
+
+QWidget* ReplaceInTargets(Stage& stage) {
+    CopyList(stage);
+    auto* form = new editDialog(&stage.frame);
+    form->findChild<QLineEdit*>(QStringLiteral("FindtextBox"))->setText(QStringLiteral("B-"));
+    form->findChild<QLineEdit*>(QStringLiteral("replaceTextBox"))->setText(QStringLiteral("C-"));
+    form->show();
+    return form;
 }
 
 QWidget* About(Stage& stage) {
@@ -171,6 +193,8 @@ const std::vector<std::pair<QString, Scene>>& Scenes() {
         {QStringLiteral("properties-summary"), PropertiesTab(0)},
         {QStringLiteral("properties-custom"), PropertiesTab(1)},
         {QStringLiteral("properties-configuration"), PropertiesTab(2)},
+        {QStringLiteral("copy"), CopyList},
+        {QStringLiteral("copy-replace"), ReplaceInTargets},
     };
     return scenes;
 }

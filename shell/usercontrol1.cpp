@@ -4,6 +4,7 @@
 #include <QMenu>
 
 #include "cells/celltree.h"
+#include "copy/copyref.h"
 #include "editors/editconfig.h"
 #include "editors/edithyperlink.h"
 #include "editors/editreference.h"
@@ -77,6 +78,7 @@ UserControl1::UserControl1(QWidget* parent)
     AddPane(PaneId::Hyperlinks, new EditHyperLink);
     AddPane(PaneId::WhereUsed, new whereUsed);
     AddPane(PaneId::Rename, new renameRef);
+    AddPane(PaneId::Copy, new copyRef);
     auto* options = new setup;
     AddPane(PaneId::Setup, options);
     connect(options, &setup::SetupChanged, this, [this] { RefreshTree(QString()); });

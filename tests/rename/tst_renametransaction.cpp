@@ -4,6 +4,7 @@
 #include <QTest>
 #include <cerrno>
 
+#include "services/filecopy.h"
 #include "services/filesystem.h"
 #include "services/texts.h"
 #include "tests/rename/renameproject.h"
