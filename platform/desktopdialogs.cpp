@@ -113,6 +113,18 @@ QString DesktopDialogs::OpenFile(const QString& title, const QString& filter,
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
+QString DesktopDialogs::SaveFile(const QString& title, const QString& filter,
+                                 const QString& start) {
+    const NormalCursor normal;
+    QFileDialog dialog(Owner(), title);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setNameFilters(NameFiltersOf(filter));
+    if (!start.isEmpty())
+        dialog.selectFile(start);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
 QString DesktopDialogs::BrowseFolder(const QString& title, const QString& start) {
     const NormalCursor normal;
     return QFileDialog::getExistingDirectory(Owner(), title, start);

@@ -10,6 +10,7 @@ public:
     Answer Box(const QString& text, Icon icon, const QString& title, Buttons buttons,
                const QString& detail) override;
     QString OpenFile(const QString& title, const QString& filter, const QString& start) override;
+    QString SaveFile(const QString& title, const QString& filter, const QString& start) override;
     QString BrowseFolder(const QString& title, const QString& start) override;
     std::optional<Password> AskPassword(const QString& server, const QString& realm,
                                         bool refused) override;

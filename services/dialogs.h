@@ -39,6 +39,12 @@ public:
     // if any. Empty on cancel.
     virtual QString OpenFile(const QString& title, const QString& filter,
                              const QString& start = {}) = 0;
+    // The name of a file that is to be written, which may be there or not: nothing is asked about
+    // one that is. `start` is what is offered first. Empty on cancel.
+    virtual QString SaveFile(const QString& /*title*/, const QString& /*filter*/,
+                             const QString& /*start*/) {
+        return {};
+    }
     virtual QString BrowseFolder(const QString& title,
                                  const QString& start) = 0;  // empty on cancel
 

@@ -25,6 +25,10 @@ void TestDialogs::ExpectOpenFile(const QString& answer) {
     expected_.append({Kind::OpenFile, answer, Icon::None, Answer::Ok});
 }
 
+void TestDialogs::ExpectSaveFile(const QString& answer) {
+    expected_.append({Kind::SaveFile, answer, Icon::None, Answer::Ok});
+}
+
 void TestDialogs::ExpectBrowseFolder(const QString& answer) {
     expected_.append({Kind::BrowseFolder, answer, Icon::None, Answer::Ok});
 }
@@ -53,6 +57,13 @@ QString TestDialogs::OpenFile(const QString& title, const QString& filter, const
     lastFilter_ = filter;
     lastStart_ = start;
     return Take(Kind::OpenFile, title).text;
+}
+
+QString TestDialogs::SaveFile(const QString& title, const QString& filter, const QString& start) {
+    lastTitle_ = title;
+    lastFilter_ = filter;
+    lastStart_ = start;
+    return Take(Kind::SaveFile, title).text;
 }
 
 QString TestDialogs::BrowseFolder(const QString& title, const QString&) {

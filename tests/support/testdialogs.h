@@ -18,6 +18,7 @@ public:
     // `text` is the whole message; with a "*" at its end, its beginning.
     void Expect(const QString& text, Icon icon = Icon::Exclamation, Answer answer = Answer::Ok);
     void ExpectOpenFile(const QString& answer);
+    void ExpectSaveFile(const QString& answer);
     void ExpectBrowseFolder(const QString& answer);
     // The password dialog comes next; none stands for its cancel.
     void ExpectPassword(const std::optional<Password>& answer);
@@ -31,12 +32,13 @@ public:
     Answer Box(const QString& text, Icon icon, const QString& title, Buttons buttons,
                const QString& detail) override;
     QString OpenFile(const QString& title, const QString& filter, const QString& start) override;
+    QString SaveFile(const QString& title, const QString& filter, const QString& start) override;
     QString BrowseFolder(const QString& title, const QString& start) override;
     std::optional<Password> AskPassword(const QString& server, const QString& realm,
                                         bool refused) override;
 
 private:
-    enum class Kind { Box, OpenFile, BrowseFolder, Password };
+    enum class Kind { Box, OpenFile, SaveFile, BrowseFolder, Password };
     struct Expected {
         Kind kind;
         QString text;
