@@ -4,6 +4,7 @@
 
 #include "cells/celltree.h"
 #include "rename/renameref.h"
+#include "search/srccontrol.h"
 #include "services/dialogs.h"
 #include "services/docaccess.h"
 #include "services/helpviewer.h"
@@ -67,6 +68,7 @@ UserControl1::UserControl1(QWidget* parent)
     AddPane(PaneId::Preview, new PreviewPane);
     AddPane(PaneId::WhereUsed, new whereUsed);
     AddPane(PaneId::Rename, new renameRef);
+    AddPane(PaneId::Search, new srcControl);
 }
 
 UserControl1::~UserControl1() {
