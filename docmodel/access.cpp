@@ -5,6 +5,7 @@
 #include "docmodel/foldersearcherobject.h"
 #include "docmodel/languagesettingsobject.h"
 #include "docmodel/previewextractorobject.h"
+#include "docmodel/propertyqueryobject.h"
 #include "docmodel/webfolderclientobject.h"
 
 namespace docmodel {
@@ -19,6 +20,11 @@ std::unique_ptr<docbench::DocumentInfo> Access::MakeDocumentInfo() {
 
 std::unique_ptr<docbench::FolderSearcher> Access::MakeFolderSearcher() {
     return std::make_unique<FolderSearcherObject>();
+}
+
+std::unique_ptr<docbench::PropertyQuery> Access::MakePropertyQuery(
+    const docbench::QueryWords& words) {
+    return std::make_unique<PropertyQueryObject>(words);
 }
 
 std::unique_ptr<docbench::PreviewExtractor> Access::MakePreviewExtractor() {

@@ -11,6 +11,8 @@ public:
     std::unique_ptr<docbench::DocumentFile> MakeDocumentFile() override;
     std::unique_ptr<docbench::DocumentInfo> MakeDocumentInfo() override;
     std::unique_ptr<docbench::FolderSearcher> MakeFolderSearcher() override;
+    std::unique_ptr<docbench::PropertyQuery> MakePropertyQuery(
+        const docbench::QueryWords& words) override;
     std::unique_ptr<docbench::PreviewExtractor> MakePreviewExtractor() override;
     std::unique_ptr<docbench::LanguageSettings> MakeLanguageSettings() override;
     std::unique_ptr<docbench::WebFolderClient> MakeWebFolderClient(

@@ -3,18 +3,12 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <string_view>
 
 namespace docmodel {
 
 namespace {
-
-std::optional<qint64> GrainFor(const ReferenceIndex& index, const FileDescriptor& folder) {
-    if (!index.IsUsable())
-        return std::nullopt;
-    const std::optional<qint64>& given = GlobalIndexSettings().grain;
-    return given ? given : ClockGrain(folder.Get());
-}
 
 int CompareBytes(QByteArrayView one, QByteArrayView other) {
     const std::string_view bytes(one.data(), size_t(one.size()));
@@ -33,10 +27,10 @@ FolderMemory::FolderMemory(ReferenceIndex& index, const FileDescriptor& folder, 
       folder_(folder.Get()),
       path_(path.toUtf8()),
       isWhole_(isWhole),
-      grain_(GrainFor(index, folder)),
+      grain_(index.GrainFor(folder.Get())),
       readAt_(SystemClockNow()),
       packed_(grain_ ? index.Load(path_) : QByteArray()),
-      reader_(packed_, path_) {
+      reader_(packed_, path_, IndexMark::References) {
     Advance();
 }
 
@@ -84,7 +78,10 @@ FolderMemory::Knowledge FolderMemory::Ask(const ListedDocument& document,
         return Knowledge::None;
     }
     kept_.push_back(*entry);
-    return entry->HoldsAny(target.StemHashes()) ? Knowledge::Same : Knowledge::Without;
+    const auto& wanted = target.StemHashes();
+    const bool holdsAny = std::any_of(wanted.begin(), wanted.end(),
+                                      [&](quint32 hash) { return HoldsHash(entry->facts, hash); });
+    return holdsAny ? Knowledge::Same : Knowledge::Without;
 }
 
 // What could be changed again without looking changed is not kept in mind: it is read each time.
@@ -101,12 +98,12 @@ void FolderMemory::Save() {
         Skip(*next_);
     if (!isChanged_)
         return;
-    IndexPacker packer;
+    IndexPacker packer(IndexMark::References);
     auto kept = kept_.begin();
     for (const Learned& learned : learned_) {
         for (; kept != kept_.end() && CompareBytes(kept->name, learned.name) < 0; ++kept)
             packer.Add(*kept);
-        packer.Add(learned.name, learned.state, learned.stemHashes);
+        packer.Add(learned.name, learned.state, BytesOf(learned.stemHashes));
     }
     for (; kept != kept_.end(); ++kept)
         packer.Add(*kept);

@@ -1,10 +1,9 @@
-// What the reference index remembers of one folder's documents, packed into one run of bytes.
+// What the index remembers of one folder's documents, packed into one run of bytes.
 #pragma once
 
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QtGlobal>
-#include <vector>
 
 #include "docmodel/filestate.h"
 
@@ -14,27 +13,24 @@ namespace docmodel {
 struct IndexEntry {
     QByteArrayView name;
     FileState state;
-    QByteArrayView stemHashes;  // of all that its references may lead to, 4 bytes each
-    QByteArrayView record;      // the whole entry as it is packed
+    QByteArrayView facts;   // what the documents are remembered for, as its owner packs it
+    QByteArrayView record;  // the whole entry as it is packed
+};
 
-    template <typename Hashes>
-    bool HoldsAny(const Hashes& wanted) const {
-        for (const quint32 hash : wanted)
-            if (Holds(hash))
-                return true;
-        return false;
-    }
-
-private:
-    bool Holds(quint32 hash) const;
+// What kind of facts entries hold, and in which version of their layout. The bytes never leave the
+// machine, so they are as it keeps them in memory; what another kind of machine wrote into a shared
+// home has another mark.
+enum class IndexMark : quint32 {
+    References = 0x31584952,  // "RIX1": the hashes of StemHash, 4 bytes each
+    Properties = 0x31584950,  // "PIX1": a PropertyRecord
 };
 
 // Walks through packed entries, which are in the order of their names' bytes. Bytes that are
-// damaged, come from another version or belong to another folder have no entries.
+// damaged, have another mark or belong to another folder have no entries.
 class IndexReader {
 public:
     // `packed` must outlive the reader.
-    IndexReader(const QByteArray& packed, const QByteArray& folder);
+    IndexReader(const QByteArray& packed, const QByteArray& folder, IndexMark mark);
     bool Next(IndexEntry& entry);  // false at the end
 
 private:
@@ -45,12 +41,13 @@ private:
 // Packs entries, which must come in the order of their names' bytes.
 class IndexPacker {
 public:
-    IndexPacker();
-    void Add(QByteArrayView name, const FileState& state, const std::vector<quint32>& stemHashes);
+    explicit IndexPacker(IndexMark mark);
+    void Add(QByteArrayView name, const FileState& state, QByteArrayView facts);
     void Add(const IndexEntry& entry) { packed_.append(entry.record); }
     QByteArray Packed(const QByteArray& folder);
 
 private:
+    const IndexMark mark_;
     QByteArray packed_;
 };
 

@@ -22,6 +22,11 @@ target_sources(docmodel_core PRIVATE
     parallel.cpp
     picture.cpp
     previewextractorobject.cpp
+    propertyfolder.cpp
+    propertyqueryobject.cpp
+    propertyreadahead.cpp
+    propertyrecord.cpp
+    propertyrule.cpp
     propertyset.cpp
     propertyvalue.cpp
     referenceindex.cpp
@@ -40,8 +45,9 @@ target_sources(docmodel_core PRIVATE
     webversion.cpp
     webwatch.cpp
     xml.cpp
-    # What names and addresses mean and who the user is has one home; the library takes it from there
-    # without taking the services.
+    # What names and addresses mean, how users write dates and numbers, and who the user is have one
+    # home; the library takes them from there without taking the services.
+    ${PROJECT_SOURCE_DIR}/services/localvalues.cpp
     ${PROJECT_SOURCE_DIR}/services/paths.cpp
     ${PROJECT_SOURCE_DIR}/services/username.cpp
     ${PROJECT_SOURCE_DIR}/services/webauthority.cpp)

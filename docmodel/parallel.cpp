@@ -64,15 +64,19 @@ private:
 
 }  // namespace
 
+size_t ThreadsFor(size_t count) {
+    return std::clamp<size_t>(
+        std::min(size_t(QThreadPool::globalInstance()->maxThreadCount()), count / kLeastAThread), 1,
+        kMostThreads);
+}
+
 // On a busy machine a helper may not come to run before all is done; nobody waits for that.
 void InParallel(size_t count, const std::function<void(size_t)>& work) {
     QThreadPool& pool = *QThreadPool::globalInstance();
     SharedWork shared(count, work);
     QSemaphore done;
     std::vector<std::unique_ptr<Helper>> helpers;
-    const size_t threads =
-        std::min({size_t(pool.maxThreadCount()), kMostThreads, count / kLeastAThread});
-    while (helpers.size() + 1 < threads) {
+    while (helpers.size() + 1 < ThreadsFor(count)) {
         helpers.push_back(std::make_unique<Helper>(shared, done));
         pool.start(helpers.back().get());
     }

@@ -13,21 +13,30 @@
 #include <QStandardPaths>
 #include <QVariant>
 
+#include "docmodel/filestate.h"
+
 namespace docmodel {
 
 namespace {
 
 Q_LOGGING_CATEGORY(indexLog, "docmodel.index", QtInfoMsg)
 
-// A row a folder. `properties` is for searches by properties, which keep their own bytes there: a
-// search reads and writes one column and leaves the other alone.
 constexpr char kCreate[] =
     "CREATE TABLE IF NOT EXISTS folders"
     " (path BLOB PRIMARY KEY NOT NULL, documents BLOB, properties BLOB)";
-constexpr char kLoad[] = "SELECT documents FROM folders WHERE path = ?";
-constexpr char kStore[] =
-    "INSERT INTO folders (path, documents) VALUES (?, ?)"
-    " ON CONFLICT (path) DO UPDATE SET documents = excluded.documents";
+
+// By Facts.
+struct Statements {
+    const char* load;
+    const char* store;
+};
+constexpr Statements kStatements[] = {
+    {"SELECT documents FROM folders WHERE path = ?",
+     "INSERT INTO folders (path, documents) VALUES (?, ?)"
+     " ON CONFLICT (path) DO UPDATE SET documents = excluded.documents"},
+    {"SELECT properties FROM folders WHERE path = ?",
+     "INSERT INTO folders (path, properties) VALUES (?, ?)"
+     " ON CONFLICT (path) DO UPDATE SET properties = excluded.properties"}};
 
 // Readers and a writer don't wait for each other. Nothing is synced: after a power failure old or
 // broken rows are found out as such when they are read.
@@ -75,7 +84,7 @@ IndexSettings& GlobalIndexSettings() {
 
 // An open database with its prepared statements.
 struct ReferenceIndex::Connection {
-    Connection() : name(UniqueName()) {}
+    explicit Connection(Facts facts) : name(UniqueName()), statements(kStatements[int(facts)]) {}
     ~Connection() {
         load.reset();
         store.reset();
@@ -88,6 +97,7 @@ struct ReferenceIndex::Connection {
     QSqlError Prepare(std::optional<QSqlQuery>& query, const char* statement);
 
     const QString name;
+    const Statements& statements;
     QSqlDatabase database;
     std::optional<QSqlQuery> load;
     std::optional<QSqlQuery> store;
@@ -108,18 +118,18 @@ QSqlError ReferenceIndex::Connection::Open(const QString& file) {
         return database.lastError();
     for (const char* pragma : kPragmas)  // without them it only takes longer
         QSqlQuery(database).exec(QLatin1String(pragma));
-    if (QSqlError error = Prepare(load, kLoad); error.isValid()) {
+    if (QSqlError error = Prepare(load, statements.load); error.isValid()) {
         QSqlQuery create(database);
         if (!create.exec(QLatin1String(kCreate)))
             return create.lastError();
-        error = Prepare(load, kLoad);
+        error = Prepare(load, statements.load);
         if (error.isValid())
             return error;
     }
-    return Prepare(store, kStore);
+    return Prepare(store, statements.store);
 }
 
-ReferenceIndex::ReferenceIndex() {
+ReferenceIndex::ReferenceIndex(Facts facts) : facts_(facts) {
     const IndexSettings& settings = GlobalIndexSettings();
     if (!settings.isOn)
         return;
@@ -132,8 +142,15 @@ ReferenceIndex::ReferenceIndex() {
 
 ReferenceIndex::~ReferenceIndex() = default;
 
+std::optional<qint64> ReferenceIndex::GrainFor(int folder) const {
+    if (!IsUsable())
+        return std::nullopt;
+    const std::optional<qint64>& given = GlobalIndexSettings().grain;
+    return given ? given : ClockGrain(folder);
+}
+
 void ReferenceIndex::Open() {
-    connection_ = std::make_unique<Connection>();
+    connection_ = std::make_unique<Connection>(facts_);
     const QSqlError error = connection_->Open(GlobalIndexSettings().file);
     if (!error.isValid())
         return;

@@ -1,5 +1,7 @@
 #include "docmodel/referencetarget.h"
 
+#include <cstring>
+
 #include "docmodel/referencepath.h"
 
 namespace docmodel {
@@ -85,6 +87,22 @@ bool ReferenceTarget::Matches(const QString& path) const {
     const qsizetype folderLength = FolderLength(whole);
     return NameMatches(whole.sliced(folderLength)) &&
            (!isFullPath_ || whole.first(folderLength) == folder_);
+}
+
+QByteArrayView BytesOf(const std::vector<quint32>& stemHashes) {
+    return {reinterpret_cast<const char*>(stemHashes.data()),
+            qsizetype(stemHashes.size() * sizeof(quint32))};
+}
+
+bool HoldsHash(QByteArrayView stemHashes, quint32 hash) {
+    constexpr qsizetype kBytes = sizeof hash;
+    for (qsizetype at = 0; at + kBytes <= stemHashes.size(); at += kBytes) {
+        quint32 held;
+        std::memcpy(&held, stemHashes.data() + at, sizeof held);
+        if (held == hash)
+            return true;
+    }
+    return false;
 }
 
 }  // namespace docmodel

@@ -1,8 +1,10 @@
 // The document that a search looks for: which references lead to it.
 #pragma once
 
+#include <QByteArrayView>
 #include <QString>
 #include <QVarLengthArray>
+#include <vector>
 
 #include "services/docaccess.h"
 
@@ -34,5 +36,9 @@ private:
 // A number for the file name of a path, without what stands behind its last dot; the same for names
 // that differ only in letter case. It is the same in every version and on every machine.
 quint32 StemHash(QStringView path);
+
+// Hashes as the index keeps them, 4 bytes each.
+QByteArrayView BytesOf(const std::vector<quint32>& stemHashes);
+bool HoldsHash(QByteArrayView stemHashes, quint32 hash);
 
 }  // namespace docmodel

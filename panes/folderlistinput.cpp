@@ -23,7 +23,8 @@ constexpr int kMostRows = 8;  // of the list that drops down
 
 }  // namespace
 
-FolderListInput::FolderListInput(const Controls& controls, OnLeaving onLeaving, QWidget* form)
+FolderListInput::FolderListInput(const Controls& controls, OnLeaving onLeaving, QWidget* form,
+                                 Drops drops)
     : QObject(form),
       controls_(controls),
       onLeaving_(onLeaving),
@@ -50,8 +51,11 @@ FolderListInput::FolderListInput(const Controls& controls, OnLeaving onLeaving, 
     connect(List1_, &QListView::entered, List1_, &QListView::setCurrentIndex);
     connect(List1_, &QListView::clicked, this,
             [this](const QModelIndex& index) { Pick(index.row()); });
-    connect(new PathDrop(controls_.wuLookin, PathDrop::Takes::Files), &PathDrop::Dropped, this,
-            &FolderListInput::Append);
+    if (drops == Drops::Refuses)
+        controls_.wuLookin->setAcceptDrops(false);
+    else
+        connect(new PathDrop(controls_.wuLookin, PathDrop::Takes::Files), &PathDrop::Dropped, this,
+                &FolderListInput::Append);
     RefreshList();
 }
 
@@ -91,7 +95,9 @@ void FolderListInput::ToggleList() {
 }
 
 void FolderListInput::Browse() {
-    const QString folder = BrowseForFolder(QString(), Tr(Text::LookInWhat));
+    const QString folder = browseTitle_.isEmpty()
+                               ? BrowseForFolder(QString(), Tr(Text::LookInWhat))
+                               : gSeams.dialogs->BrowseFolder(browseTitle_, QString());
     if (!folder.isEmpty())
         Append(folder);
 }

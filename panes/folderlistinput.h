@@ -21,10 +21,12 @@ public:
         QPushButton* browse;
     };
     enum class OnLeaving { Accepts, TestsFolders };
+    enum class Drops { Appends, Refuses };
 
     // The controls belong to `form`, which gets the list "List1" as a further child and owns this
     // object.
-    FolderListInput(const Controls& controls, OnLeaving onLeaving, QWidget* form);
+    FolderListInput(const Controls& controls, OnLeaving onLeaving, QWidget* form,
+                    Drops drops = Drops::Appends);
 
     QString Text() const;
     // A new entry behind those that are there.
@@ -33,6 +35,8 @@ public:
     void RefreshList();  // from the settings
     // Whether the list is filled anew each time it drops down; else it keeps what RefreshList gave.
     void SetRefillsOnShow(bool refills) { refillsOnShow_ = refills; }
+    // In place of the usual title of the dialog that browses for a folder.
+    void SetBrowseTitle(const QString& title) { browseTitle_ = title; }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -49,6 +53,7 @@ private:
     QListView* List1_;
     CellList* names_;
     bool refillsOnShow_ = true;
+    QString browseTitle_;   // empty: the usual one
     bool testing_ = false;  // its own box takes the focus as well
 };
 

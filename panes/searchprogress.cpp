@@ -8,9 +8,10 @@
 
 namespace docbench {
 
-void ShowSearchProgress(QLabel& label, const SearchCounts& counts, int rowsFound) {
+void ShowSearchProgress(QLabel& label, const SearchCounts& counts, int rowsFound,
+                        TextId<1> foundText) {
     QStringList parts{Format(Text::DocumentsLookedAt, QString::number(counts.documents)),
-                      Format(Text::HoldersFound, QString::number(rowsFound))};
+                      Format(foundText, QString::number(rowsFound))};
     if (counts.unread > 0)
         parts.append(Format(Text::FilesNotRead, QString::number(counts.unread)));
     label.setText(parts.join(QStringLiteral("   ")));

@@ -210,6 +210,38 @@ public:
     virtual int OpenRegistryKey(const QString& keyPath) = 0;
 };
 
+// The user's words that the rules of a search may hold.
+struct QueryWords {
+    QString fileName;  // in a rule's place for the property: the rule is on the file's name
+    QString yes;       // what a yes or no property is to rules on texts
+    QString no;
+};
+
+// Evaluates rules on the properties of documents.
+class PropertyQuery {
+public:
+    virtual ~PropertyQuery() = default;
+
+    // Adds a rule behind those that are there. `connective` is "AND" or "OR" and joins it to what
+    // all rules before it have given; that of the first rule is ignored. `property` is the key of a
+    // summary field ("Title", "Author", "Comments", "Keywords", "Subject", "Last Saved by", "Last
+    // Saved", "Created"), the word for the file's name, or the name of a custom property.
+    // `operatorCode` is 0 is, 1 is not, 2 contains, 3 =, 4 not =, 5 <, 6 <=, 7 >, 8 >=, 9 is Yes,
+    // 10 is No. `value` is a QString, a QDateTime (midnight, local time, stands for the whole day),
+    // a double, a bool, or invalid for one that matches nothing. Raises for any other connective.
+    virtual void AddCondition(const QString& connective, const QString& property, int operatorCode,
+                              const QVariant& value) = 0;
+    virtual void SetFileName(const QString& name) = 0;  // of the next document, for rules on it
+    // Whether the document at a local path satisfies the rules. One that can't be read does not;
+    // neither does any document without rules.
+    virtual bool Evaluate(const QString& path) = 0;
+
+    // Says which documents of a folder, in what order, will be evaluated next, so that they can be
+    // read on all processors. It changes no answer.
+    virtual void ReadAhead(const QString& folder, const QStringList& names) = 0;
+    virtual SearchCounts GetSearchCounts() = 0;  // of all documents that were evaluated
+};
+
 class PreviewExtractor {
 public:
     virtual ~PreviewExtractor() = default;
@@ -305,6 +337,7 @@ public:
     virtual std::unique_ptr<DocumentFile> MakeDocumentFile() = 0;
     virtual std::unique_ptr<DocumentInfo> MakeDocumentInfo() = 0;
     virtual std::unique_ptr<FolderSearcher> MakeFolderSearcher() = 0;
+    virtual std::unique_ptr<PropertyQuery> MakePropertyQuery(const QueryWords& words) = 0;
     virtual std::unique_ptr<PreviewExtractor> MakePreviewExtractor() = 0;
     virtual std::unique_ptr<LanguageSettings> MakeLanguageSettings() = 0;
     // Null from a library that knows no web folders.

@@ -10,6 +10,7 @@
 #include "editors/editreference.h"
 #include "editors/propertiesbox.h"
 #include "rename/renameref.h"
+#include "search/srccontrol.h"
 #include "services/dialogs.h"
 #include "services/docaccess.h"
 #include "services/helpviewer.h"
@@ -82,6 +83,7 @@ UserControl1::UserControl1(QWidget* parent)
     auto* options = new setup;
     AddPane(PaneId::Setup, options);
     connect(options, &setup::SetupChanged, this, [this] { RefreshTree(QString()); });
+    AddPane(PaneId::Search, new srcControl);
 }
 
 UserControl1::~UserControl1() {

@@ -82,18 +82,18 @@ private:
 
     // Tells the index that a document in this state refers to nothing.
     void Plant(const QString& name, const FileState& state) const {
-        IndexPacker packer;
+        IndexPacker packer(IndexMark::References);
         packer.Add(name.toUtf8(), state, {});
         ReferenceIndex().Store(Key(), packer.Packed(Key()));
     }
     // What the index knows of the folder: "NAME HASHES" for each document.
     QStringList Known() const {
         const QByteArray packed = ReferenceIndex().Load(Key());
-        IndexReader reader(packed, Key());
+        IndexReader reader(packed, Key(), IndexMark::References);
         QStringList known;
         for (IndexEntry entry; reader.Next(entry);)
             known.append(QString::fromUtf8(entry.name) + ' ' +
-                         QString::number(entry.stemHashes.size() / 4));
+                         QString::number(entry.facts.size() / 4));
         return known;
     }
 
@@ -116,34 +116,35 @@ private Q_SLOTS:
 
     void EntriesComeOutAsTheyWentIn() {
         const FileState state = {1, 2, 3, 4};
-        IndexPacker packer;
-        packer.Add("a", state, {7, 8, 9});
+        IndexPacker packer(IndexMark::References);
+        packer.Add("a", state, "facts");
         packer.Add("b", {5, 6, 7, 8}, {});
         const QByteArray packed = packer.Packed("/folder/");
-        IndexReader reader(packed, "/folder/");
+        IndexReader reader(packed, "/folder/", IndexMark::References);
         IndexEntry entry;
         QVERIFY(reader.Next(entry));
         QCOMPARE(entry.name, QByteArrayView("a"));
         QVERIFY(entry.state == state);
-        QVERIFY(entry.HoldsAny(std::vector<quint32>{1, 9}));
-        QVERIFY(!entry.HoldsAny(std::vector<quint32>{1, 2}));
+        QCOMPARE(entry.facts, QByteArrayView("facts"));
         QVERIFY(reader.Next(entry));
         QCOMPARE(entry.name, QByteArrayView("b"));
         QVERIFY(!reader.Next(entry));
     }
 
     void DamagedOrForeignBytesHaveNoEntries() {
-        IndexPacker packer;
-        packer.Add("name", {1, 2, 3, 4}, {7, 8});
+        IndexPacker packer(IndexMark::References);
+        packer.Add("name", {1, 2, 3, 4}, "facts");
         const QByteArray packed = packer.Packed("/folder/");
         IndexEntry entry;
-        QVERIFY(!IndexReader(packed, "/other/").Next(entry));
+        QVERIFY(!IndexReader(packed, "/other/", IndexMark::References).Next(entry));
+        QVERIFY(!IndexReader(packed, "/folder/", IndexMark::Properties).Next(entry));
         for (qsizetype length = 0; length < packed.size(); ++length)
-            QVERIFY(!IndexReader(packed.left(length), "/folder/").Next(entry));
+            QVERIFY(
+                !IndexReader(packed.left(length), "/folder/", IndexMark::References).Next(entry));
         for (qsizetype bit = 0; bit < packed.size() * 8; ++bit) {
             QByteArray damaged = packed;
             damaged[bit / 8] = char(damaged[bit / 8] ^ (1 << bit % 8));
-            QVERIFY(!IndexReader(damaged, "/folder/").Next(entry));
+            QVERIFY(!IndexReader(damaged, "/folder/", IndexMark::References).Next(entry));
         }
     }
 

@@ -58,6 +58,7 @@ public:
     std::unique_ptr<DocumentFile> MakeDocumentFile() override { return nullptr; }
     std::unique_ptr<DocumentInfo> MakeDocumentInfo() override { return nullptr; }
     std::unique_ptr<FolderSearcher> MakeFolderSearcher() override { return nullptr; }
+    std::unique_ptr<PropertyQuery> MakePropertyQuery(const QueryWords&) override { return nullptr; }
     std::unique_ptr<PreviewExtractor> MakePreviewExtractor() override { return nullptr; }
     std::unique_ptr<LanguageSettings> MakeLanguageSettings() override {
         ++made;

@@ -50,6 +50,7 @@ public:
     std::unique_ptr<FolderSearcher> MakeFolderSearcher() override {
         return std::make_unique<SettingsSearcher>(opened);
     }
+    std::unique_ptr<PropertyQuery> MakePropertyQuery(const QueryWords&) override { return nullptr; }
     std::unique_ptr<PreviewExtractor> MakePreviewExtractor() override { return nullptr; }
     std::unique_ptr<LanguageSettings> MakeLanguageSettings() override { return nullptr; }
 

@@ -22,6 +22,9 @@ public:
     std::unique_ptr<FolderSearcher> MakeFolderSearcher() override {
         return real_->MakeFolderSearcher();
     }
+    std::unique_ptr<PropertyQuery> MakePropertyQuery(const QueryWords& words) override {
+        return real_->MakePropertyQuery(words);
+    }
     std::unique_ptr<PreviewExtractor> MakePreviewExtractor() override {
         return real_->MakePreviewExtractor();
     }

@@ -212,6 +212,9 @@ public:
         hook_("MakeFolderSearcher", QString());
         return real_->MakeFolderSearcher();
     }
+    std::unique_ptr<PropertyQuery> MakePropertyQuery(const QueryWords& words) override {
+        return real_->MakePropertyQuery(words);
+    }
     std::unique_ptr<PreviewExtractor> MakePreviewExtractor() override {
         return real_->MakePreviewExtractor();
     }

@@ -70,6 +70,9 @@ public:
     std::unique_ptr<FolderSearcher> MakeFolderSearcher() override {
         return std::make_unique<FakeFinder>(real_->MakeFolderSearcher(), folders);
     }
+    std::unique_ptr<PropertyQuery> MakePropertyQuery(const QueryWords& words) override {
+        return real_->MakePropertyQuery(words);
+    }
     std::unique_ptr<PreviewExtractor> MakePreviewExtractor() override {
         return real_->MakePreviewExtractor();
     }

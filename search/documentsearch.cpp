@@ -1,0 +1,114 @@
+#include "search/documentsearch.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+
+#include "panes/folderwalk.h"
+#include "services/folderlists.h"
+#include "services/paths.h"
+
+namespace docbench {
+namespace {
+
+struct Listing {
+    QStringList files;
+    QStringList folders;
+};
+
+Listing List(const QString& folder) {
+    Listing listing;
+    QDirIterator entries(folder,
+                         QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    while (entries.hasNext()) {
+        entries.next();
+        (entries.fileInfo().isDir() ? listing.folders : listing.files).append(entries.fileName());
+    }
+    listing.files.sort();
+    listing.folders.sort();
+    return listing;
+}
+
+}  // namespace
+
+QStringList SearchEntries(const QString& text) {
+    QStringList entries = ExpandFolderList(text).split(u';');
+    return RemoveDuplicates(entries);
+}
+
+void DocumentSearch::Run(const QStringList& entries) {
+    QString folder;
+    for (const QString& entry : entries) {
+        const QFileInfo place(entry);
+        if (place.isDir())
+            folder = QDir::cleanPath(place.absoluteFilePath());
+        if (!folder.isEmpty())
+            SearchTree(folder);
+    }
+}
+
+void DocumentSearch::SearchTree(const QString& folder) {
+    visited_.clear();
+    const FolderWalk walk{
+        .yields = WalkYields::AtFolders,
+        .yield = calls_.yield,
+        .stopped = calls_.stopped,
+        .entering = {},
+        .visit = [this](const QString& visited) { return SearchFolder(visited); }};
+    walk.Run(folder);
+}
+
+// A link to a folder that was searched already is left out, so that a walk through linked folders
+// ends.
+QStringList DocumentSearch::SearchFolder(const QString& folder) {
+    const QFileInfo place(folder);
+    const QString canonical = place.canonicalFilePath();
+    if (place.isSymLink() && visited_.contains(canonical))
+        return {};
+    visited_.insert(canonical);
+    calls_.entering(folder);
+    if (!place.isReadable())
+        ++unlisted_;
+    const Listing listing = List(folder);
+    QStringList below;
+    if (!SearchFiles(folder, listing.files) || !calls_.descends())
+        return below;
+    for (const QString& name : listing.folders)
+        below.append(QDir(folder).filePath(name));
+    return below;
+}
+
+bool DocumentSearch::SearchFiles(const QString& folder, const QStringList& names) {
+    Announce(folder, names);
+    for (const QString& name : names) {
+        calls_.yield();
+        if (calls_.stopped())
+            return false;
+        const QString path = QDir(folder).filePath(name);
+        if (!IsCandidate(name, path))
+            continue;
+        query_.SetFileName(name);
+        if (query_.Evaluate(path)) {
+            ++found_;
+            calls_.found(path);
+        }
+        const SearchCounts counts = query_.GetSearchCounts();
+        calls_.progress({counts.documents, counts.unread + unlisted_});
+    }
+    return true;
+}
+
+void DocumentSearch::Announce(const QString& folder, const QStringList& names) {
+    QStringList candidates;
+    for (const QString& name : names)
+        if (IsCandidate(name, QDir(folder).filePath(name)))
+            candidates.append(name);
+    if (!candidates.isEmpty())
+        query_.ReadAhead(folder, candidates);
+}
+
+bool DocumentSearch::IsCandidate(const QString& name, const QString& path) const {
+    return DocTypeOf(name) != DocType::None && !calls_.isListed(path);
+}
+
+}  // namespace docbench
