@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QByteArray>
-#include <optional>
+#include <memory>
 
 #include "docmodel/package.h"
 #include "docmodel/xml.h"
@@ -69,9 +69,10 @@ public:
     QByteArray Find(const PartKind& kind) const;
 
 private:
+    struct Targets;
     QByteArray Named(const PartKind& kind) const;
     const Package* package_;
-    mutable std::optional<Relationships> relationships_;
+    mutable std::shared_ptr<Targets> targets_;  // null: not looked at yet
 };
 
 QByteArray FindPart(const Package& package, const PartKind& kind);

@@ -127,6 +127,23 @@ QByteArray Package::ReadPart(const QByteArray& name, qint64 limit) const {
     return bytes;
 }
 
+QByteArray Package::PartImage(const QByteArray& name) const {
+    const DirectoryEntry& entry = data_->Entry(name);
+    const zip::CentralRecord& record = entry.record;
+    const quint64 offset = DataOffset(data_->Source(), entry, data_->directory.Name(entry));
+    const uchar* bytes = data_->tail.InMemory(offset, record.compressedSize);
+    if (!bytes)
+        return {};
+    const struct {
+        quint64 size;
+        quint32 crc;
+        quint16 flags;
+        quint16 method;
+    } head = {record.size, record.crc, record.flags, record.method};
+    QByteArray image(reinterpret_cast<const char*>(&head), sizeof head);
+    return image.append(reinterpret_cast<const char*>(bytes), qsizetype(record.compressedSize));
+}
+
 void Package::CheckParts() const {
     for (qsizetype i = 0; i < data_->directory.Count(); ++i)
         data_->Check(data_->directory.At(i));

@@ -42,6 +42,9 @@ public:
     // The uncompressed bytes of a part, at most `limit` of them, with size and CRC checked. Raises
     // DocumentError, also when the part is encrypted, compressed by an unknown method, or too big.
     QByteArray ReadPart(const QByteArray& name, qint64 limit) const;
+    // The part as the file has it, compressed and with its checksum: two parts with the same image
+    // hold the same bytes. Empty when it is not in memory. Raises DocumentError.
+    QByteArray PartImage(const QByteArray& name) const;
 
     // Reads every part and throws it away, in little memory. Raises DocumentError when one is
     // damaged, encrypted or compressed by an unknown method.

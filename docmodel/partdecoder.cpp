@@ -7,6 +7,7 @@
 #include <cstring>
 #include <limits>
 #include <new>
+#include <utility>
 
 #include "docmodel/fileops.h"
 #include "docmodel/packageerror.h"
@@ -61,16 +62,39 @@ bool CanDecode(const zip::CentralRecord& record, QString& fault) {
     return false;
 }
 
-struct PartDecoder::Inflater {
-    Inflater() {
+namespace {
+
+// A state of zlib, which knows its own address.
+struct ZlibState {
+    ZlibState() {
         if (inflateInit2(&stream, -MAX_WBITS) != Z_OK)
             throw std::bad_alloc();
     }
-    ~Inflater() { inflateEnd(&stream); }
-    Inflater(const Inflater&) = delete;
-    Inflater& operator=(const Inflater&) = delete;
-
+    ~ZlibState() { inflateEnd(&stream); }
+    ZlibState(const ZlibState&) = delete;
+    ZlibState& operator=(const ZlibState&) = delete;
     z_stream stream = {};
+};
+
+// Making one, with its window of 32 KiB, takes longer than uncompressing a small part, so each
+// thread keeps one for the next part.
+thread_local std::unique_ptr<ZlibState> keptState;
+
+std::unique_ptr<ZlibState> FreshState() {
+    std::unique_ptr<ZlibState> state = std::move(keptState);
+    if (!state || inflateReset(&state->stream) != Z_OK)
+        state = std::make_unique<ZlibState>();
+    state->stream.avail_in = 0;  // what a damaged part left
+    return state;
+}
+
+}  // namespace
+
+struct PartDecoder::Inflater {
+    ~Inflater() { keptState = std::move(state); }
+
+    std::unique_ptr<ZlibState> state = FreshState();
+    z_stream& stream = state->stream;
     bool atEnd = false;
     std::unique_ptr<uchar[]> buffer;  // of raw bytes, when they are not in memory
 };

@@ -4,7 +4,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
-#include <cerrno>
+#include <utility>
 
 #include "docmodel/folderlisting.h"
 #include "docmodel/packageerror.h"
@@ -31,6 +31,10 @@ PropertyFolder::PropertyFolder(ReferenceIndex& index, const QString& prefix)
       grain_(index.GrainFor(folder_.Get())),
       readAt_(SystemClockNow()),
       packed_(grain_ ? index.Load(path_) : QByteArray()) {
+    LoadKnown();
+}
+
+void PropertyFolder::LoadKnown() {
     IndexReader reader(packed_, path_, IndexMark::Properties);
     for (IndexEntry entry; reader.Next(entry);)
         known_.insert(
@@ -45,85 +49,92 @@ PropertyFolder::~PropertyFolder() {
 }
 
 void PropertyFolder::ReadAhead(const QStringList& names) {
+    ahead_.reset();
+    expected_ = names;
+}
+
+void PropertyFolder::StartReadingAhead() {
     std::vector<PropertyReadAhead::Document> documents;
-    documents.reserve(size_t(names.size()));
-    for (const QString& name : names) {
+    documents.reserve(size_t(expected_.size()));
+    for (const QString& name : std::as_const(expected_)) {
         const QByteArray bytes = name.toUtf8();
         const auto known = known_.constFind(bytes);
         documents.push_back(
             {bytes, known == known_.constEnd() ? std::nullopt : std::optional(known->state)});
-        expected_.insert(bytes);
     }
     ahead_ = std::make_unique<PropertyReadAhead>(folder_.Get(), prefix_, std::move(documents));
+    ahead_->Start();
 }
 
 // Believed is only what is on the disk in the state in which it was read. A link is read at any
 // time: what is known of disks is known of the folder's own.
 QByteArray PropertyFolder::Read(const QString& name) {
     const QByteArray bytes = name.toUtf8();
-    const auto known = known_.constFind(bytes);
-    if (known == known_.constEnd())
+    const auto known = known_.find(bytes);
+    if (known == known_.end())
         return ReadNew(bytes);
-    asked_.insert(bytes);
     struct stat status;
     if (StatusAt(folder_.Get(), bytes, AT_SYMLINK_NOFOLLOW, status) &&
-        StateOf(status) == known->state)
+        StateOf(status) == known->state) {
+        known->isAsked = true;
         return known->record;
+    }
     known_.erase(known);
     isChanged_ = true;
     return ReadNew(bytes);
 }
 
 QByteArray PropertyFolder::ReadNew(const QByteArray& name) {
-    const QString path = prefix_ + QString::fromUtf8(name);
-    if (ahead_) {
-        ahead_->Start();
-        const std::optional<PropertyReadAhead::Outcome> read = ahead_->Take(name);
-        struct stat status;
-        if (read && !read->failure.isEmpty())
-            throw DocumentError(read->failure);
-        if (read && StatusAt(folder_.Get(), name, 0, status) &&
-            StateOf(status) == read->properties.state) {
-            Learn(name, read->properties);
-            return read->properties.record;
-        }
+    std::optional<PropertyReadAhead::Outcome> ahead;
+    if (!expected_.isEmpty()) {
+        if (!ahead_)
+            StartReadingAhead();
+        ahead = ahead_->Take(name);
     }
-    const ReadProperties read = ReadPropertiesAt(folder_.Get(), name.constData(), path);
+    if (ahead && !ahead->failure.isEmpty())
+        throw DocumentError(ahead->failure);
+    if (ahead && Learn(name, ahead->properties))
+        return ahead->properties.record;
+    const ReadProperties read =
+        ReadPropertiesAt(folder_.Get(), name.constData(), prefix_ + QString::fromUtf8(name));
     Learn(name, read);
     return read.record;
 }
 
-// What could be changed again without looking changed is not kept in mind: it is read each time.
-void PropertyFolder::Learn(const QByteArray& name, const ReadProperties& read) {
+// False when the document is no longer as it was read. What could be changed again without looking
+// changed is not kept in mind: it is read each time.
+bool PropertyFolder::Learn(const QByteArray& name, const ReadProperties& read) {
     struct stat status;
-    if (!grain_ || read.record.size() > kLargestRecord ||
-        !IsSettled(read.state, readAt_, *grain_) ||
-        !StatusAt(folder_.Get(), name, AT_SYMLINK_NOFOLLOW, status) || S_ISLNK(status.st_mode))
-        return;
-    known_.insert(name, {read.state, read.record});
-    asked_.insert(name);
-    isChanged_ = true;
+    if (!StatusAt(folder_.Get(), name, AT_SYMLINK_NOFOLLOW, status))
+        return false;
+    if (S_ISLNK(status.st_mode))
+        return StatusAt(folder_.Get(), name, 0, status) && StateOf(status) == read.state;
+    if (StateOf(status) != read.state)
+        return false;
+    if (grain_ && read.record.size() <= kLargestRecord && IsSettled(read.state, readAt_, *grain_)) {
+        known_.insert(name, {.state = read.state, .record = read.record, .isAsked = true});
+        isChanged_ = true;
+    }
+    return true;
 }
 
-// After a search of the whole folder, what it has not asked for may be of documents that are gone.
-void PropertyFolder::DropVanished() {
-    if (expected_.isEmpty())
-        return;
-    known_.removeIf([this](QHash<QByteArray, Known>::iterator entry) {
-        struct stat status;
-        return !asked_.contains(entry.key()) && !expected_.contains(entry.key()) &&
-               !StatusAt(folder_.Get(), entry.key(), AT_SYMLINK_NOFOLLOW, status);
-    });
+// What a search of the whole folder has not asked for may be of a document that is gone.
+bool PropertyFolder::IsVanished(const QByteArray& name, const Known& known) const {
+    struct stat status;
+    return !known.isAsked && !StatusAt(folder_.Get(), name, AT_SYMLINK_NOFOLLOW, status);
 }
 
 void PropertyFolder::Store() {
-    DropVanished();
+    for (const QString& name : std::as_const(expected_))
+        if (const auto known = known_.find(name.toUtf8()); known != known_.end())
+            known->isAsked = true;  // or would have been, had nobody stopped the search
     QList<QByteArray> names = known_.keys();
     std::sort(names.begin(), names.end());
     IndexPacker packer(IndexMark::Properties);
     for (const QByteArray& name : names) {
         const Known& known = known_[name];
-        packer.Add(name, known.state, known.record);
+        if (expected_.isEmpty() || !IsVanished(name, known))
+            packer.Add(name, known.state, known.record);
     }
     index_.Store(path_, packer.Packed(path_));
 }

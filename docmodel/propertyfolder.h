@@ -4,7 +4,6 @@
 
 #include <QByteArray>
 #include <QHash>
-#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <memory>
@@ -33,13 +32,17 @@ public:
     QByteArray Read(const QString& name);
 
 private:
+    // A document that the index knows or that was learned of.
     struct Known {
         FileState state;
         QByteArray record;  // may share the bytes of packed_
+        bool isAsked = false;
     };
+    void LoadKnown();
+    void StartReadingAhead();
     QByteArray ReadNew(const QByteArray& name);
-    void Learn(const QByteArray& name, const ReadProperties& read);
-    void DropVanished();
+    bool Learn(const QByteArray& name, const ReadProperties& read);
+    bool IsVanished(const QByteArray& name, const Known& known) const;
     void Store();
 
     ReferenceIndex& index_;
@@ -50,9 +53,8 @@ private:
     const qint64 readAt_;  // before any document was read
     const QByteArray packed_;
     QHash<QByteArray, Known> known_;
-    QSet<QByteArray> expected_;  // by ReadAhead
-    QSet<QByteArray> asked_;
-    std::unique_ptr<PropertyReadAhead> ahead_;
+    QStringList expected_;                      // by ReadAhead
+    std::unique_ptr<PropertyReadAhead> ahead_;  // made when the first of them must be read
     bool isChanged_ = false;
 };
 

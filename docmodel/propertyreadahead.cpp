@@ -32,7 +32,8 @@ class PropertyReadAhead::Helper : public QRunnable {
 public:
     explicit Helper(PropertyReadAhead& ahead) : ahead_(ahead) { setAutoDelete(false); }
     void run() override {
-        ahead_.ReadSome();
+        while (ahead_.ReadNext()) {
+        }
         ahead_.ended_.release();
     }
 
@@ -69,7 +70,7 @@ void PropertyReadAhead::Start() {
     }
 }
 
-void PropertyReadAhead::ReadSome() {
+bool PropertyReadAhead::ReadNext() {
     for (size_t i = next_++; i < slots_.size() && !stops_; i = next_++) {
         Slot& slot = *slots_[i];
         Stage stage = Waiting;
@@ -77,7 +78,9 @@ void PropertyReadAhead::ReadSome() {
             continue;  // whoever asks was faster
         slot.stage = ReadInto(slot);
         slot.stage.notify_all();
+        return true;
     }
+    return false;
 }
 
 PropertyReadAhead::Stage PropertyReadAhead::ReadInto(Slot& slot) const {
@@ -103,6 +106,8 @@ std::optional<PropertyReadAhead::Outcome> PropertyReadAhead::Take(const QByteArr
     Stage stage = Waiting;
     if (slot->stage.compare_exchange_strong(stage, Left))
         return std::nullopt;
+    while (slot->stage == Reading && ReadNext()) {
+    }
     slot->stage.wait(Reading);
     if (slot->stage.exchange(Left) != Read)
         return std::nullopt;

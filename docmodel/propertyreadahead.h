@@ -47,8 +47,8 @@ public:
         ReadProperties properties = {};
         QString failure = {};  // why there are none; empty if there are
     };
-    // What was read of a document, waiting for it if it is being read. None when nobody has begun:
-    // then the caller reads it, and nobody else will.
+    // What was read of a document. While another thread is at it, this one reads some of those
+    // behind. None when nobody has begun: then the caller reads it, and nobody else will.
     std::optional<Outcome> Take(const QByteArray& name);
 
 private:
@@ -59,7 +59,7 @@ private:
         std::atomic<Stage> stage = Waiting;
     };
     class Helper;
-    void ReadSome();
+    bool ReadNext();  // false when there is none left
     Stage ReadInto(Slot& slot) const;
 
     const int folder_;

@@ -15,7 +15,8 @@ using Field = PropertyKey::Field;
 constexpr std::array<const char*, 8> kKeys = {"Title",   "Author",        "Comments",   "Keywords",
                                               "Subject", "Last Saved by", "Last Saved", "Created"};
 
-// Before the name and the value, both in UTF-8, the value as XML stores one of its type.
+// Before the name in UTF-8 and the value: a number as such, else in UTF-8 as XML stores one of its
+// type.
 struct ItemHead {
     Field field;
     quint8 type;
@@ -70,7 +71,19 @@ bool Next(QByteArrayView& rest, Item& item) {
     return true;
 }
 
+QByteArray BytesOf(const PropertyValue& value) {
+    if (value.type != kNumber)
+        return ToText(value).toUtf8();
+    const double number = value.value.toDouble();
+    return QByteArray(reinterpret_cast<const char*>(&number), sizeof number);
+}
+
 PropertyValue ValueOf(const Item& item) {
+    double number = 0;
+    if (item.head.type == kNumber && size_t(item.value.size()) == sizeof number) {
+        std::memcpy(&number, item.value.data(), sizeof number);
+        return {number, kNumber};
+    }
     return FromText(QString::fromUtf8(item.value), PropertyType(item.head.type));
 }
 
@@ -80,7 +93,7 @@ PropertyKey PropertyKey::For(const QString& name) {
     for (size_t field = 0; field < kKeys.size(); ++field)
         if (SameName(name, QLatin1String(kKeys[field])))
             return {Field(field)};
-    return {Field::Custom, name};
+    return {Field::Custom, name, name.toUtf8()};
 }
 
 QByteArray ReadPropertyRecord(const Package& package) {
@@ -91,22 +104,20 @@ QByteArray ReadPropertyRecord(const Package& package) {
     if (const std::optional<CustomProperties> custom = ReadCustom(parts)) {
         const QList<CustomProperty> properties = custom->Properties();
         for (const CustomProperty& property : properties) {
-            const auto type = PropertyType(property.type);
-            Append(packed, Field::Custom, type, property.name.toUtf8(),
-                   ToText({property.value, type}).toUtf8());
+            const PropertyValue value{property.value, PropertyType(property.type)};
+            Append(packed, Field::Custom, value.type, property.name.toUtf8(), BytesOf(value));
         }
     }
     return packed;
 }
 
 std::optional<PropertyValue> PropertyRecord::Find(const PropertyKey& key) const {
-    const QByteArray exact = key.name.toUtf8();
     std::optional<Item> similar;
     QByteArrayView rest = packed_;
     for (Item item; Next(rest, item);) {
         if (item.head.field != key.field)
             continue;
-        if (item.name == exact)
+        if (item.name == key.exact)
             return ValueOf(item);
         if (!similar && SameName(QString::fromUtf8(item.name), key.name))
             similar = item;

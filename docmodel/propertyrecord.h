@@ -28,7 +28,8 @@ struct PropertyKey {
     static PropertyKey For(const QString& name);
 
     Field field = Field::Custom;
-    QString name = {};  // of a custom property
+    QString name = {};      // of a custom property
+    QByteArray exact = {};  // the same in UTF-8
 };
 
 // Reads the properties of the package. A document without any gives a record without any. Raises

@@ -11,6 +11,10 @@
 namespace docbench {
 namespace {
 
+QString PathIn(const QString& folder, const QString& name) {
+    return folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
+}
+
 struct Listing {
     QStringList files;
     QStringList folders;
@@ -74,7 +78,7 @@ QStringList DocumentSearch::SearchFolder(const QString& folder) {
     if (!SearchFiles(folder, listing.files) || !calls_.descends())
         return below;
     for (const QString& name : listing.folders)
-        below.append(QDir(folder).filePath(name));
+        below.append(PathIn(folder, name));
     return below;
 }
 
@@ -84,7 +88,7 @@ bool DocumentSearch::SearchFiles(const QString& folder, const QStringList& names
         calls_.yield();
         if (calls_.stopped())
             return false;
-        const QString path = QDir(folder).filePath(name);
+        const QString path = PathIn(folder, name);
         if (!IsCandidate(name, path))
             continue;
         query_.SetFileName(name);
@@ -101,7 +105,7 @@ bool DocumentSearch::SearchFiles(const QString& folder, const QStringList& names
 void DocumentSearch::Announce(const QString& folder, const QStringList& names) {
     QStringList candidates;
     for (const QString& name : names)
-        if (IsCandidate(name, QDir(folder).filePath(name)))
+        if (IsCandidate(name, PathIn(folder, name)))
             candidates.append(name);
     if (!candidates.isEmpty())
         query_.ReadAhead(folder, candidates);
