@@ -226,7 +226,7 @@ int main(int argc, char* argv[]) {
     }
     ApplyTheme(qEnvironmentVariable("DOCBENCH_THEME", QStringLiteral("light")));
     const DesktopSeams seams;
-    ConsoleDialogs unattended;
+    ConsoleDialogs unattended{QString()};
     gSeams.dialogs = &unattended;
     const QDir folder(arguments[2]);
     QDir().mkpath(folder.path());

@@ -11,6 +11,7 @@ namespace docbench {
 namespace {
 
 const QString kInOption = QStringLiteral("in");
+const QString kNoSubfoldersOption = QStringLiteral("no-subfolders");
 
 // Named lists begin with a blank, addresses stay as they are, folders are taken from here.
 QString WholeFolder(const QString& folder) {
@@ -58,8 +59,11 @@ void AddFolderOptions(QCommandLineParser& parser) {
                                      "blank before it is a named folder list. Default: the folder "
                                      "of FILE."),
                       QStringLiteral("FOLDER")});
-    parser.addOption(
-        {QStringLiteral("no-subfolders"), QStringLiteral("Leaves the folders below out.")});
+    parser.addOption({kNoSubfoldersOption, QStringLiteral("Leaves the folders below out.")});
+}
+
+bool WithSubfolders(const QCommandLineParser& line) {
+    return !line.isSet(kNoSubfoldersOption);
 }
 
 QString FoldersToSearch(const QCommandLineParser& line, const QString& document) {

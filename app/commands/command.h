@@ -43,6 +43,7 @@ QString Wrapped(const QString& text);
 
 // Folders to search: those of the option, or the one that the document is in.
 void AddFolderOptions(QCommandLineParser& parser);
+bool WithSubfolders(const QCommandLineParser& line);
 QString FoldersToSearch(const QCommandLineParser& line, const QString& document);
 
 }  // namespace docbench

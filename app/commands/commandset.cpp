@@ -3,8 +3,12 @@
 #include <QTextStream>
 
 #include "app/commands/console.h"
+#include "app/commands/listcommand.h"
+#include "app/commands/lockcommand.h"
+#include "app/commands/referencescommand.h"
 #include "app/commands/renamecommand.h"
 #include "app/commands/treecommand.h"
+#include "app/commands/whereusedcommand.h"
 #include "app/consoledialogs.h"
 #include "app/exitcodes.h"
 #include "services/docaccess.h"
@@ -68,8 +72,15 @@ const std::vector<std::unique_ptr<Command>>& AllCommands() {
     static const auto commands = [] {
         std::vector<std::unique_ptr<Command>> all;
         all.push_back(std::make_unique<TreeCommand>());
+        all.push_back(std::make_unique<ReferencesCommand>());
+        all.push_back(std::make_unique<WhereUsedCommand>());
         all.push_back(std::make_unique<RenameCommand>(RenameCommand::Does::Rename));
         all.push_back(std::make_unique<RenameCommand>(RenameCommand::Does::Replace));
+        all.push_back(std::make_unique<ContentsCommand>(ContentsCommand::Lists::Configurations));
+        all.push_back(std::make_unique<ContentsCommand>(ContentsCommand::Lists::Hyperlinks));
+        all.push_back(std::make_unique<LockCommand>(LockCommand::Does::Lock));
+        all.push_back(std::make_unique<LockCommand>(LockCommand::Does::Unlock));
+        all.push_back(std::make_unique<ListCommand>());
         return all;
     }();
     return commands;

@@ -92,7 +92,7 @@ void Search(const QCommandLineParser& line, const RenamePlan& plan, CellList& li
         .document = plan.oldPath,
         .parent = plan.parent,
         .kinds = {},
-        .subfolders = !line.isSet(QStringLiteral("no-subfolders")),
+        .subfolders = WithSubfolders(line),
         .status = [&](const QString& text) { console.ShowProgress(text); },
         .yield = [] {},
         .cancelled = [] { return false; },

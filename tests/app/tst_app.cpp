@@ -35,6 +35,10 @@ private Q_SLOTS:
     void withNobodyToAskItNeedsYes();
     void aHolderThatIsLeftOutEndsWithOne();
     void replaceMovesNothing();
+    void referencesListsBothTables();
+    void whereUsedListsTheHoldersAndWritesThem();
+    void lockAndUnlockReserveADocument();
+    void listKeepsTheFolderLists();
     void everyCommandHasItsHelp();
     void wrongUsageEndsWithTwo_data();
     void wrongUsageEndsWithTwo();
@@ -312,9 +316,70 @@ void TestApp::replaceMovesNothing() {
     QCOMPARE(refused.code, 1);  // of another type
 }
 
+void TestApp::referencesListsBothTables() {
+    TestLibrary library;
+    const QString pin = library.Make("pin.tfmprt");
+    const QString lost = library.Path("lost.tfmprt");
+    const QString top = library.Make("top.tfmasm", {{pin, 2}}, {{lost, "derived"}});
+    const Run run({"references", top});
+    QCOMPARE(run.code, 0);
+    const QStringList lines = run.out.split(u'\n', Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 3);
+    QCOMPARE(lines[1].simplified(), pin + " component 1");
+    QCOMPARE(lines[2].simplified(), lost + " external 1 missing");
+    QCOMPARE(Run({"references", lost}).code, 3);
+}
+
+void TestApp::whereUsedListsTheHoldersAndWritesThem() {
+    TestLibrary library;
+    SmallAssembly(library);
+    const QString file = library.Path("users.csv");
+    const Run run({"where-used", "--json", "-o", file, library.Path("pin.tfmprt")});
+    QCOMPARE(run.code, 0);
+    const QJsonObject result = QJsonDocument::fromJson(run.out.toUtf8()).object();
+    QCOMPARE(result["rows"].toArray().size(), 1);
+    QCOMPARE(result["rows"][0]["document"].toString(), library.Path("left.tfmasm"));
+    QFile csv(file);
+    QVERIFY(csv.open(QIODevice::ReadOnly));
+    QVERIFY(csv.readAll().contains("left.tfmasm"));
+    const QString sheet = library.Path("users.xlsx");
+    QCOMPARE(Run({"where-used", "-o", sheet, library.Path("pin.tfmprt")}).code, 0);
+    QFile xlsx(sheet);
+    QVERIFY(xlsx.open(QIODevice::ReadOnly));
+    QVERIFY(xlsx.readAll().startsWith("PK"));
+}
+
+void TestApp::lockAndUnlockReserveADocument() {
+    TestLibrary library;
+    SmallAssembly(library);
+    const QString pin = library.Path("pin.tfmprt");
+    QCOMPARE(Run({"lock", "--dry-run", pin}).code, 0);
+    QVERIFY(!library.IsLocked(pin));
+    QCOMPARE(Run({"lock", "--yes", pin}).code, 0);
+    QVERIFY(library.IsLocked(pin));
+    QCOMPARE(Run({"unlock", "--yes", pin}).code, 0);
+    QVERIFY(!library.IsLocked(pin));
+    // Somebody else's stays locked.
+    QCOMPARE(Run({"unlock", "--yes", library.Path("bo\"lt.tfmprt")}).code, 1);
+}
+
+void TestApp::listKeepsTheFolderLists() {
+    TestLibrary library;
+    SmallAssembly(library);
+    QCOMPARE(Run({"list", "Parts", library.Folder()}).code, 0);
+    const Run shown({"list", "-0", "Parts"});
+    QCOMPARE(shown.out, library.Folder() + QChar('\0'));
+    const Run used({"where-used", "-0", "--in", " Parts", "pin.tfmprt"});
+    QCOMPARE(used.out, library.Path("left.tfmasm") + QChar('\0'));
+    QCOMPARE(Run({"list", "two words", library.Folder()}).code, 1);
+    QCOMPARE(Run({"list", "--delete", "Parts"}).code, 0);
+    QCOMPARE(Run({"list", "Parts"}).code, 1);
+}
+
 void TestApp::everyCommandHasItsHelp() {
     const QString list = Run({"--help"}).out;
-    for (const char* name : {"tree", "rename", "replace"}) {
+    for (const char* name : {"tree", "references", "where-used", "rename", "replace",
+                             "configurations", "hyperlinks", "lock", "unlock", "list"}) {
         QVERIFY2(list.contains(QString("\n  %1 ").arg(name)), name);
         const Run help({name, "--help"});
         QCOMPARE(help.code, 0);
