@@ -206,9 +206,12 @@ void copyRef::LoadDocument() {
     Documents().MakeDocumentFile()->Open(LocalCopyOf(mDocumentPath));  // proves that it can be read
     ui_->editBox1->show();
     ui_->whereused->setChecked(false);
+    const QPointer<copyRef> alive(this);  // events run below
     ui_->children->setChecked(false);
+    if (!alive || load != loads_)
+        return;
     BuildCopyList(mDocumentPath);
-    if (load != loads_)
+    if (!alive || load != loads_)
         return;  // another document came in meanwhile
     EnablePaneControls(true);
     ui_->reset->setEnabled(false);
@@ -237,6 +240,8 @@ void copyRef::BuildCopyList(const QString& path) {
                                          QStringLiteral("   ") + FileNameOf(document));
                             }},
                        Copies());
+    if (!alive || load != loads_)
+        return;  // in a box of the walk
     mRowFolders = result.rowFolders;
     mMissingCount = result.missing;
     ui_->lblProgress->clear();

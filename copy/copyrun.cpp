@@ -20,14 +20,6 @@ namespace {
 using End = CopyResult::End;
 using List = CopyProgress::List;
 
-bool IsSameFile(const QString& one, const QString& other) {
-    struct stat first;
-    struct stat second;
-    return ::stat(QFile::encodeName(one).constData(), &first) == 0 &&
-           ::stat(QFile::encodeName(other).constData(), &second) == 0 &&
-           first.st_dev == second.st_dev && first.st_ino == second.st_ino;
-}
-
 class Run {
 public:
     Run(const CopyPlan& plan, const CopyProgress& progress)

@@ -1,5 +1,8 @@
 #include "copy/filecopier.h"
 
+#include <QFile>
+#include <QUuid>
+
 #include "services/dialogs.h"
 #include "services/docaccess.h"
 #include "services/errorstate.h"
@@ -54,10 +57,6 @@ CopyOutcome Upload(const QString& source, const QString& target, IfThere ifThere
     return outcome;
 }
 
-CopyOutcome Download(const QString& source, const QString& target) {
-    return WebOutcome(gWebFolder && gWebFolder->GetFile(source, target));
-}
-
 // Between folders. None when there is a file meanwhile that nobody was asked about.
 std::optional<CopyOutcome> CopyOnDisk(const QString& source, const QString& target,
                                       IfThere ifThere) {
@@ -66,6 +65,17 @@ std::optional<CopyOutcome> CopyOnDisk(const QString& source, const QString& targ
     if (!errors.Assign(copied, [&] { return Files().Copy(source, target, ifThere); }))
         return CopyOutcome{.status = CopyStatus::Failed, .reason = errors.Description()};
     return copied ? std::optional(CopyOutcome{}) : std::nullopt;
+}
+
+// Beside the target first: what stands there is replaced only if it may be, and by a whole file.
+std::optional<CopyOutcome> Download(const QString& source, const QString& target, IfThere ifThere) {
+    const QString part = FolderOf(target) + u'.' + QUuid::createUuid().toString(QUuid::Id128) +
+                         QStringLiteral(".tmp");
+    if (!gWebFolder || !gWebFolder->GetFile(source, part))
+        return WebOutcome(false);
+    const std::optional<CopyOutcome> outcome = CopyOnDisk(part, target, ifThere);
+    QFile::remove(part);
+    return outcome;
 }
 
 QString ParentFolderOf(const QString& path) {
@@ -101,9 +111,10 @@ CopyOutcome FileCopier::CopyAs(const QString& source, const QString& target) {
         }
         if (IsWebPath(target))
             return Upload(source, target, ifThere);
-        if (IsWebPath(source))
-            return Download(source, target);
-        if (const std::optional<CopyOutcome> outcome = CopyOnDisk(source, target, ifThere))
+        const std::optional<CopyOutcome> outcome = IsWebPath(source)
+                                                       ? Download(source, target, ifThere)
+                                                       : CopyOnDisk(source, target, ifThere);
+        if (outcome)
             return *outcome;
     }
     return {.status = CopyStatus::Failed,

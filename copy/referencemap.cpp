@@ -1,15 +1,21 @@
 #include "copy/referencemap.h"
 
 #include "copy/copylist.h"
+#include "services/filesystem.h"
 #include "services/paths.h"
 
 namespace docbench {
 
-ReferenceMap::ReferenceMap(const CopyPlan& plan) : plan_(plan) {
+ReferenceMap::ReferenceMap(const CopyPlan& plan, const QHash<QString, QString>& madeFrom)
+    : plan_(plan), madeFrom_(madeFrom) {
     for (int row = 0; row < plan.copies.Count(); ++row) {
-        const QString source = ReadCopyRow(plan.copies.At(row)).source;
-        exact_[source].append(row);
-        folded_[source.toUpper()].append(row);
+        const CopyRow shown = ReadCopyRow(plan.copies.At(row));
+        QList<int>& exact = exact_[shown.source];
+        if (!HasCopy(plan.copies.At(row)) ||
+            madeFrom_.value(TargetKey(shown.target)) != shown.source)
+            continue;
+        exact.append(row);
+        folded_[shown.source.toUpper()].append(row);
     }
 }
 
@@ -23,18 +29,31 @@ std::optional<QString> ReferenceMap::MapReferencePath(const QString& path) const
         }
         return plan_.source == working ? OwnCopy() : std::nullopt;
     }
+    if (IsAnotherFile(working))
+        return std::nullopt;
     const auto folded = folded_.constFind(working.toUpper());
     if (folded != folded_.cend()) {
         if (const auto copy = FirstCopy(*folded))
             return copy;
     }
-    return plan_.source.toUpper() == working.toUpper() ? std::optional(plan_.target) : std::nullopt;
+    return plan_.source.toUpper() == working.toUpper() ? OwnCopy() : std::nullopt;
+}
+
+// Where the disk tells names apart that differ in letter case alone, such a one is no copied
+// document's.
+bool ReferenceMap::IsAnotherFile(const QString& path) const {
+    if (IsWebPath(path) || !FileExists(path))
+        return false;
+    const auto folded = folded_.constFind(path.toUpper());
+    if (folded == folded_.cend() || folded->isEmpty())
+        return plan_.source.toUpper() == path.toUpper() && !IsSameFile(path, plan_.source);
+    return !IsSameFile(path, ReadCopyRow(plan_.copies.At(folded->first())).source);
 }
 
 std::optional<QString> ReferenceMap::FirstCopy(const QList<int>& rows) const {
     for (const int row : rows) {
         const QString target = ReadCopyRow(plan_.copies.At(row)).target;
-        if (HasCopy(plan_.copies.At(row)) && IsThere(target))
+        if (IsThere(target))
             return target;
     }
     return std::nullopt;

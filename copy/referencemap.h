@@ -10,11 +10,12 @@
 
 namespace docbench {
 
-// Made once the sources of all rows are settled. Which rows have a copy is read anew at each
-// question.
+// Made once the files are copied. A row whose target is the copy of another document has none.
 class ReferenceMap {
 public:
-    explicit ReferenceMap(const CopyPlan& plan);
+    // `madeFrom` gives the sources of the copies that were made, by the keys of their targets. It
+    // must outlive the map.
+    ReferenceMap(const CopyPlan& plan, const QHash<QString, QString>& madeFrom);
 
     // The copy of the document at `path`: of the first row with a copy, else the document's own.
     // None: it was not copied, and the reference stays. Letter case counts only where documents
@@ -24,9 +25,11 @@ public:
 private:
     std::optional<QString> FirstCopy(const QList<int>& rows) const;
     std::optional<QString> OwnCopy() const;
+    bool IsAnotherFile(const QString& path) const;
     bool IsThere(const QString& target) const;
 
     const CopyPlan& plan_;
+    const QHash<QString, QString>& madeFrom_;
     QHash<QString, QList<int>> exact_;    // rows by the path of their source
     QHash<QString, QList<int>> folded_;   // the same in capitals
     mutable QHash<QString, bool> there_;  // targets that were looked for

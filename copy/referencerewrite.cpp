@@ -52,7 +52,7 @@ public:
           files_(files),
           progress_(progress),
           targetCell_(targetCell),
-          map_(plan),
+          map_(plan, files.madeFrom),
           sourceDoc_(Documents().MakeDocumentFile()),
           targetDoc_(Documents().MakeDocumentFile()) {}
 
@@ -70,8 +70,11 @@ private:
         return files_.sourceReason.isEmpty() ? error : files_.sourceReason;
     }
     DocumentFile& OpenCopy(const QString& source, const QString& target, bool sameTables);
+    bool WasKept(const QString& target) const;
     void RequireMadeFrom(const QString& source, const QString& target) const;
-    bool PointToCopies(DocumentFile& writing, const QString& source, ErrorState& errors);
+    static void RequireReference(const QString& found, const QString& old, const QString& copy);
+    bool PointToCopies(DocumentFile& writing, const QString& source, bool sameTables,
+                       ErrorState& errors);
     bool PointParent(DocumentFile& writing, const ParentRow& row, ErrorState& errors);
     DocumentFile& OpenParent(const ParentRow& row);
     void RequireStamp(DocumentFile& file, const ParentRow& row, const QString& path) const;
@@ -142,6 +145,11 @@ DocumentFile& Rewriter::OpenCopy(const QString& source, const QString& target, b
     return *targetDoc_;
 }
 
+// What stands at the target of a row is no copy: it was there before, and the user kept it.
+bool Rewriter::WasKept(const QString& target) const {
+    return !files_.madeFrom.contains(TargetKey(target)) && !IsWebPath(target) && FileExists(target);
+}
+
 // Two rows with one target: what stands there is the copy of one of them.
 void Rewriter::RequireMadeFrom(const QString& source, const QString& target) const {
     const QString made = files_.madeFrom.value(TargetKey(target), source);
@@ -151,17 +159,29 @@ void Rewriter::RequireMadeFrom(const QString& source, const QString& target) con
                                 .arg(target, made));
 }
 
+// In a kept file the same position may be another reference by now, which is left alone.
+void Rewriter::RequireReference(const QString& found, const QString& old, const QString& copy) {
+    const QString name = FileNameOf(found);
+    if (name != FileNameOf(old) && name != FileNameOf(copy))
+        throw DocumentError(QStringLiteral("A reference to %1 stands where one to %2 was expected: "
+                                           "it was left alone.")
+                                .arg(found, old));
+}
+
 // Points every reference that leads to a copied document to the copy. What fails keeps its path,
 // and the others go on.
-bool Rewriter::PointToCopies(DocumentFile& writing, const QString& source, ErrorState& errors) {
+bool Rewriter::PointToCopies(DocumentFile& writing, const QString& source, bool sameTables,
+                             ErrorState& errors) {
     const QString webFolder = WebFolderOf(source);
     bool modified = false;
     int count = 0;
     errors.Assign(count, [&] { return sourceDoc_->GetComponentCount(); });
     for (int i = 0; i < count; ++i) {
         errors.Run([&] {
-            if (const auto path =
-                    map_.MapReferencePath(sourceDoc_->GetComponent(i, webFolder).path)) {
+            const QString old = sourceDoc_->GetComponent(i, webFolder).path;
+            if (const auto path = map_.MapReferencePath(old)) {
+                if (!sameTables)
+                    RequireReference(writing.GetComponent(i, webFolder).path, old, *path);
                 writing.SetComponentPath(i, *path);
                 modified = true;
             }
@@ -171,8 +191,10 @@ bool Rewriter::PointToCopies(DocumentFile& writing, const QString& source, Error
     errors.Assign(count, [&] { return sourceDoc_->GetExternalReferenceCount(); });
     for (int i = 0; i < count; ++i) {
         errors.Run([&] {
-            if (const auto path =
-                    map_.MapReferencePath(sourceDoc_->GetExternalReference(i, webFolder).path)) {
+            const QString old = sourceDoc_->GetExternalReference(i, webFolder).path;
+            if (const auto path = map_.MapReferencePath(old)) {
+                if (!sameTables)
+                    RequireReference(writing.GetExternalReference(i, webFolder).path, old, *path);
                 writing.SetExternalReferencePath(i, *path);
                 modified = true;
             }
@@ -192,7 +214,7 @@ Rewriter::Next Rewriter::RewriteSource() {
         if (!AskToGoOn(Format(Text::CopyNotOpened, plan_.target), ReasonFor(errors.Description())))
             return Next::End;
     } else {
-        modified = PointToCopies(*writing, plan_.source, errors);
+        modified = PointToCopies(*writing, plan_.source, sameTables, errors);
     }
     const QString untold = ReasonFor(errors.Description());
     errors.Clear();
@@ -221,6 +243,8 @@ Rewriter::Next Rewriter::RewriteRow(int index) {
     const CopyRow row = ReadCopyRow(plan_.copies.At(index));
     const QString key = KeyOf(row.source, row.target);
     Count(row.target);
+    if (WasKept(row.target))
+        return Next::Row;
     if (done_.contains(key))
         return Next::Row;  // a copy that several use: it would get the same paths again
     progress_.status(Format(Text::UpdatingReferences, row.target));
@@ -245,7 +269,7 @@ Rewriter::Next Rewriter::RewriteRow(int index) {
                    ? Next::Row
                    : Next::End;
     }
-    const bool modified = PointToCopies(*writing, row.source, errors);
+    const bool modified = PointToCopies(*writing, row.source, true, errors);
     const bool complete = !errors.Failed();
     if (!complete)
         tell(errors.Description());

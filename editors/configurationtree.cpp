@@ -159,10 +159,13 @@ void WriteConfigurations(DocumentFile& file, const QList<ConfigurationEdit>& edi
     }
     QSet<int> aside;
     while (!waiting.isEmpty()) {
-        const qsizetype done = waiting.removeIf([&](const ConfigurationEdit& edit) {
-            return file.RenameConfiguration(edit.id, edit.newName) == 0;
-        });
-        if (done > 0)
+        // From the last: renumbering upwards, each waits for the one behind it.
+        const qsizetype before = waiting.size();
+        for (qsizetype i = before - 1; i >= 0; --i) {
+            if (file.RenameConfiguration(waiting[i].id, waiting[i].newName) == 0)
+                waiting.removeAt(i);
+        }
+        if (waiting.size() < before)
             continue;
         const auto next =
             std::find_if(waiting.begin(), waiting.end(),

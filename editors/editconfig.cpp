@@ -89,8 +89,12 @@ void editConfig::ConnectControls() {
     connect(ui_->tvwconfig, &EditTree::DeletePressed, this, &editConfig::ToggleDeletion);
     connect(ui_->tvwconfig, &EditTree::MenuRequested, this, &editConfig::ShowMenu);
     connect(ui_->ecSave, &QPushButton::clicked, this, &editConfig::Save);
-    connect(ui_->ecReset, &QPushButton::clicked, this,
-            [this] { SetPartName(partDisplayName, partfilename); });
+    connect(ui_->ecReset, &QPushButton::clicked, this, [this] {
+        const bool pending = uploadPending_;  // what is saved is still to be uploaded
+        SetPartName(partDisplayName, partfilename);
+        uploadPending_ = pending;
+        UpdateButtons();
+    });
 }
 
 QString editConfig::HelpTopic() const {
@@ -195,6 +199,7 @@ void editConfig::Save() {
 // Onto the document as it is now, so that an attempt that failed leaves nothing for the next one.
 // False when the server has not taken the document, which the upload has told.
 bool editConfig::Write() {
+    const QString url = UrlToUpload(partfilename, localPath);
     const QList<ConfigurationEdit> edits = configurations_->Edits();
     if (!edits.isEmpty()) {
         const auto newest = Documents().MakeDocumentFile();
@@ -203,9 +208,7 @@ bool editConfig::Write() {
         WriteConfigurations(*newest, edits);
         newest->Save();
     }
-    QString url;
-    return (edits.isEmpty() && !uploadPending_) || !FindUrlOfCopy(localPath, url) ||
-           UploadIfWeb(url);
+    return (edits.isEmpty() && !uploadPending_) || UploadIfWeb(url);
 }
 
 }  // namespace docbench

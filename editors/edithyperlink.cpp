@@ -58,8 +58,12 @@ void EditHyperLink::ConnectControls() {
     });
     connect(ui_->tvwhlink, &EditTree::Opened, this, &EditHyperLink::OpenTarget);
     connect(ui_->ecSave, &QPushButton::clicked, this, &EditHyperLink::Save);
-    connect(ui_->ecReset, &QPushButton::clicked, this,
-            [this] { SetPartName(partDisplayName, partfilename); });
+    connect(ui_->ecReset, &QPushButton::clicked, this, [this] {
+        const bool pending = uploadPending_;  // what is saved is still to be uploaded
+        SetPartName(partDisplayName, partfilename);
+        uploadPending_ = pending;
+        UpdateButtons();
+    });
 }
 
 QString EditHyperLink::HelpTopic() const {
@@ -138,6 +142,7 @@ void EditHyperLink::Save() {
 // Onto the document as it is now, so that an attempt that failed leaves nothing for the next one.
 // False when the server has not taken the document, which the upload has told.
 bool EditHyperLink::Write() {
+    const QString url = UrlToUpload(partfilename, localPath);
     const auto newest = Documents().MakeDocumentFile();
     newest->OpenHyperlinks(localPath);
     if (newest->GetStamp(Table::Hyperlinks) != hyperlinkDocument->GetStamp(Table::Hyperlinks))
@@ -148,8 +153,7 @@ bool EditHyperLink::Write() {
     const bool changed = hyperlinks_->Write(*newest);
     if (changed)
         newest->SaveHyperlinks();
-    QString url;
-    return (!changed && !uploadPending_) || !FindUrlOfCopy(localPath, url) || UploadIfWeb(url);
+    return (!changed && !uploadPending_) || UploadIfWeb(url);
 }
 
 }  // namespace docbench

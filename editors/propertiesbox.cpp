@@ -249,6 +249,12 @@ int PropertiesBox::PickedConfiguration() const {
 
 void PropertiesBox::OnConfigurationPicked() {
     const int index = PickedConfiguration();
+    if (index < 0 && currentConfiguration >= 0) {
+        // A click with Ctrl: the rows in sight stay those of the configuration, so it stays picked.
+        const QSignalBlocker blocker(ui_->List1);
+        ui_->List1->setCurrentRow(currentConfiguration, QItemSelectionModel::ClearAndSelect);
+        return;
+    }
     if (index < 0 || index == currentConfiguration)
         return;
     if (currentConfiguration >= 0 && configDirty && !LeaveConfiguration()) {

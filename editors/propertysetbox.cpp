@@ -66,6 +66,8 @@ void PropertySetBox::SetIndex(int index) {
 }
 
 void PropertySetBox::ConnectControls() {
+    // Leaving the field is no picking, though the combo takes it for one.
+    disconnect(ui_->Name1->lineEdit(), &QLineEdit::editingFinished, ui_->Name1, nullptr);
     connect(ui_->lv1, &CellListView::RowClicked, this, &PropertySetBox::ShowRow);
     connect(ui_->lv1, &CellListView::PickedByKey, this, &PropertySetBox::ShowRow);
     connect(ui_->Name1, &QComboBox::editTextChanged, this, &PropertySetBox::OnNameChanged);

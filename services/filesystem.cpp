@@ -79,6 +79,14 @@ FileSystem& Files() {
     return gSeams.files ? *gSeams.files : disk;
 }
 
+bool IsSameFile(const QString& one, const QString& other) {
+    struct stat first;
+    struct stat second;
+    return ::stat(QFile::encodeName(one).constData(), &first) == 0 &&
+           ::stat(QFile::encodeName(other).constData(), &second) == 0 &&
+           first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
+
 bool IsReadOnlyFile(const QString& path) {
     const QFileInfo file(path);
     return file.exists() &&

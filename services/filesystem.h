@@ -26,6 +26,9 @@ public:
 // The disk, unless a test has put something else in its place (gSeams.files).
 FileSystem& Files();
 
+// Two names of one file. False when one of them is not there.
+bool IsSameFile(const QString& one, const QString& other);
+
 // A file or folder on the disk without the right to be written. Asked by mode: who may do anything
 // is told of write protection all the same.
 bool IsReadOnlyFile(const QString& path);

@@ -116,6 +116,15 @@ bool FindUrlOfCopy(const QString& local, QString& url) {
     return false;
 }
 
+QString UrlToUpload(const QString& document, const QString& local) {
+    QString url;
+    if (!FindUrlOfCopy(local, url) && IsWebPath(document))
+        throw DocumentError(QStringLiteral("The local copy of %1 was given up since it was loaded. "
+                                           "Load it again and repeat your changes.")
+                                .arg(document));
+    return url;
+}
+
 QHash<QString, QString> UrlsOfCopies() {
     QHash<QString, QString> urls;
     for (auto copy = gWebCopies.cbegin(); copy != gWebCopies.cend(); ++copy)

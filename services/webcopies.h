@@ -39,6 +39,11 @@ bool UploadIfWeb(const QString& path);
 // The address whose copy a local file is.
 bool FindUrlOfCopy(const QString& local, QString& url);
 
+// The address that a changed local file is to be written back to; empty for one that is no copy.
+// Raises DocumentError for the copy of a document at an address that was given up since: what is
+// written there would be lost.
+QString UrlToUpload(const QString& document, const QString& local);
+
 // The addresses of all local copies, by their cleaned paths: for who has many to look up.
 QHash<QString, QString> UrlsOfCopies();
 

@@ -257,6 +257,28 @@ private Q_SLOTS:
                  QString("new/x_left.tfmasm new/sub/x_right.tfmasm new/x_pin.tfmprt"));
     }
 
+    void aKeptTargetWhoseTableIsAnotherKeepsItsOtherReferences() {
+        Desk desk;
+        const QString clamp = desk.library.Make("clamp.tfmprt");
+        desk.library.Make("new/x_top.tfmasm", {{clamp}, {desk.left}, {desk.right}});
+        desk.dialogs.answer = [](const QString&) { return Answer::No; };
+        desk.Run();
+        QVERIFY2(desk.Holds(desk.target).startsWith("clamp.tfmprt "),
+                 qPrintable(desk.Holds(desk.target)));
+    }
+
+    void aKeptTargetOfTwoRowsIsLeftAlone() {
+        Desk desk;
+        desk.Write(desk.Copy("x_left.tfmasm"), "somebody's work");
+        desk.SetTarget(1, desk.Copy("x_left.tfmasm"));
+        desk.dialogs.answer = [](const QString&) { return Answer::No; };
+        desk.Run();
+        QFile kept(desk.Copy("x_left.tfmasm"));
+        QVERIFY(kept.open(QIODevice::ReadOnly));
+        QCOMPARE(kept.readAll(), QByteArray("somebody's work"));
+        QVERIFY(desk.Holds(desk.target).startsWith("left.tfmasm "));
+    }
+
     void aRowOfAnotherTypeIsAccepted() {
         Desk desk;
         desk.SetTarget(0, desk.Copy("left.tfmprt"));
@@ -274,6 +296,8 @@ private Q_SLOTS:
         QCOMPARE(desk.Target(1).foreColor, kColorBlue);
         QCOMPARE(desk.dialogs.boxes.size(), 1);  // no question whether to overwrite
         QVERIFY(desk.dialogs.boxes[0].contains("It was not copied"));
+        QCOMPARE(desk.Holds(desk.target).section(' ', 0, 1),
+                 QString("new/x_left.tfmasm sub/right.tfmasm"));
         QVERIFY(desk.Target(1).toolTip.contains("x_left.tfmasm"));
         QCOMPARE(desk.Holds(desk.Copy("x_left.tfmasm")), QString("new/x_pin.tfmprt"));
     }
@@ -285,6 +309,7 @@ private Q_SLOTS:
         const CopyResult result = desk.Run();
         QCOMPARE(result.copied, 2);
         QCOMPARE(desk.Target(0).foreColor, kColorBlue);
+        QVERIFY(desk.Holds(desk.target).startsWith("left.tfmasm "));  // and not itself
     }
 
     void namesThatTheDiskTakesForOneAreCopiedOnce() {
@@ -328,7 +353,9 @@ private Q_SLOTS:
         const CopyPlan plan = desk.Plan();
         desk.Write(desk.Copy("x_pin.tfmprt"), "a copy");
         desk.Write(desk.target, "a copy");
-        const ReferenceMap map(plan);
+        const QHash<QString, QString> madeFrom = {
+            {TargetKey(desk.Copy("x_pin.tfmprt")), desk.library.Path("pin.tfmprt")}};
+        const ReferenceMap map(plan, madeFrom);
         QCOMPARE(map.MapReferencePath(desk.library.Path("PIN.tfmprt")),
                  std::optional(desk.Copy("x_pin.tfmprt")));
         QCOMPARE(map.MapReferencePath(desk.library.Path("TOP.tfmasm")), std::optional(desk.target));

@@ -505,6 +505,49 @@ private Q_SLOTS:
         gWebDocument = false;
     }
 
+    void aCopyThatWasGivenUpIsNotWritten() {
+        Bench bench;
+        bench.Load({"A"});
+        FakeWeb web;
+        const QString url = "http://server/docs/pin.tfmprt";
+        web.server.files[url] = BytesOf(bench.pin);
+        gWebDocument = true;
+        bench.pane->SetPartName("pin", url);
+        bench.Type(2, "Mine");
+        const QString copy = gWebCopies.value(url);
+        const QByteArray before = BytesOf(copy);
+        gWebCopies.clear();  // a local document was browsed to
+        bench.dialogs.Expect("*");
+        bench.Save();
+        QVERIFY(bench.dialogs.AllCame());
+        QCOMPARE(bench.Texts(), QStringList("A -> Mine"));  // still to be saved
+        QCOMPARE(BytesOf(copy), before);
+        QCOMPARE(web.server.calls, QStringList("get " + url));
+        gWebDocument = false;
+    }
+
+    void resetKeepsWhatIsStillToBeUploaded() {
+        Bench bench;
+        bench.Load({"A"});
+        FakeWeb web;
+        const QString url = "http://server/docs/pin.tfmprt";
+        web.server.files[url] = BytesOf(bench.pin);
+        gWebDocument = true;
+        bench.pane->SetPartName("pin", url);
+        bench.Type(2, "Mine");
+        web.server.refusesUploads = true;
+        bench.dialogs.Expect("File save to server failed", Dialogs::Icon::None);
+        bench.Save();
+        bench.Type(2, "Other");
+        bench.Child<QPushButton>("ecReset")->click();
+        QCOMPARE(bench.Texts(), QStringList("Mine"));
+        QVERIFY(bench.CanSave());
+        web.server.refusesUploads = false;
+        bench.Save();
+        QCOMPARE(web.server.calls.last(), "put " + url);
+        gWebDocument = false;
+    }
+
     void anOpenEditBoxGoesWithThePane() {
         Bench bench;
         bench.Load({"A"});

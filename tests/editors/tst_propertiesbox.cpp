@@ -337,6 +337,32 @@ private Q_SLOTS:
         QVERIFY(!bench.ApplyButton()->isEnabled());
     }
 
+    void aPickedConfigurationStaysPicked() {
+        PropertiesBench bench;
+        bench.Load();
+        bench.PickConfiguration(1);
+        const QRect where = bench.Configurations()->visualItemRect(bench.Configurations()->item(1));
+        QTest::mouseClick(bench.Configurations()->viewport(), Qt::LeftButton, Qt::ControlModifier,
+                          where.center());
+        QVERIFY(bench.Configurations()->item(1)->isSelected());
+    }
+
+    void leavingTheNameIsNoPicking() {
+        PropertiesBench bench;
+        bench.Load();
+        bench.PickConfiguration(0);
+        bench.ShowTabOf(kConfigurationSet);
+        QComboBox* name = bench.Name(kConfigurationSet);
+        const QString known = bench.Rows(kConfigurationSet).At(0).cells[0].text;
+        name->addItem(known);  // as a suggestion of the same name is
+        name->setFocus();
+        name->lineEdit()->clear();
+        QTest::keyClicks(name, known);
+        bench.Value(kConfigurationSet)->setText("33");
+        bench.Value(kConfigurationSet)->setFocus();
+        QCOMPARE(bench.Value(kConfigurationSet)->text(), QString("33"));
+    }
+
     void theRowsOfAConfigurationStayUntilAnotherIsPicked() {
         PropertiesBench bench;
         bench.Load();
