@@ -3,7 +3,11 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDirIterator>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QTextStream>
 #include <functional>
 
@@ -11,9 +15,11 @@
 #include "frame/frmabout.h"
 #include "frame/maincontrol.h"
 #include "platform/desktopseams.h"
+#include "search/searchrules.h"
 #include "services/helpviewer.h"
 #include "services/language.h"
 #include "services/seams.h"
+#include "services/texts.h"
 #include "shell/previewpane.h"
 #include "shell/usercontrol1.h"
 #include "whereused/whereused.h"
@@ -64,6 +70,24 @@ QWidget* WhereUsedOfAScrew(Stage& stage) {
     return &stage.frame;
 }
 
+QWidget* SearchByProperties(Stage& stage) {
+    stage.frame.SetCurrentFunction(QStringLiteral("SEARCH"));
+    const auto add = [&stage](const QString& property, int code, const QString& value) {
+        stage.Find<QLineEdit>("srcValue")->clear();
+        stage.Find<QComboBox>("srcName")->setEditText(property);
+        stage.Find<QComboBox>("srcOP")->setCurrentIndex(code);
+        stage.Find<QLineEdit>("srcValue")->setText(value);
+        stage.Find<QPushButton>("srcAddToList")->click();
+    };
+    add(QStringLiteral("Material"), kContains, QStringLiteral("steel"));
+    add(QStringLiteral("Mass"), kLess, QString::number(1));
+    stage.Find<QRadioButton>("srcOR")->click();
+    add(Tr(Text::Title), kContains, QStringLiteral("gear"));
+    stage.Find<QCheckBox>("srcRecursive")->click();
+    stage.Find<QPushButton>("srcStart")->click();
+    return &stage.frame;
+}
+
 QWidget* About(Stage& stage) {
     auto* box = new frmAbout(&stage.frame);
     box->show();
@@ -87,6 +111,7 @@ const std::vector<std::pair<QString, Scene>>& Scenes() {
         {QStringLiteral("about"), About},
         {QStringLiteral("help"), Help},
         {QStringLiteral("where-used"), WhereUsedOfAScrew},
+        {QStringLiteral("search"), SearchByProperties},
     };
     return scenes;
 }
