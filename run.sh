@@ -7,7 +7,7 @@ cd "$(dirname "$0")"
 ./setup.sh
 build=build/release
 cmake --preset release
-cmake --build --preset release --target docbench docmodel docmodel_tool docbench-samples docbench-rename-sample
+cmake --build --preset release --target docbench docmodel docmodel_tool docbench-samples
 bin=$build/bin
 out=out
 mkdir -p "$out"
@@ -33,7 +33,7 @@ part=$(find "$scratch" -name '*screw*.tfmprt' | sort | head -n 1)
 echo
 echo "In a scratch library, $(basename "$part") is renamed and every document that holds it rewritten:"
 echo
-"$bin/docbench-rename-sample" "$scratch" "$part" "renamed fastener.tfmprt"
+"$bin/docbench" rename --yes --in "$scratch" --root "$copy" "$part" "renamed fastener"
 echo
 "$bin/docbench" tree "$copy"
 

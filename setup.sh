@@ -7,7 +7,7 @@ packages=(
     g++ cmake ninja-build ccache pkg-config
     qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6svg6-dev libgl1-mesa-dev
     libqt6svg6 libqt6sql6-sqlite libzip-dev zlib1g-dev libpugixml-dev libneon27-gnutls-dev
-    qtkeychain-qt6-dev libxlsxwriter-dev
+    qt6-translations-l10n qtkeychain-qt6-dev libxlsxwriter-dev
     libbenchmark-dev
     fonts-dejavu-core
 )

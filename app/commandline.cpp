@@ -2,22 +2,18 @@
 
 #include <QCommandLineParser>
 
+#include "app/commands/commandset.h"
+
 namespace docbench {
 
 namespace {
 
-const char kHelp[] =
-    "\n"
-    "Commands:\n"
-    "  docbench [FILE]              opens the window, with the document if one is named\n"
-    "  docbench tree FILE [--json]  prints the document's reference tree\n"
-    "\n"
+const char kExitCodes[] =
     "Exit codes: 0 done, 1 done but something was refused or failed, 2 wrong usage,\n"
     "3 the document can't be opened.\n";
 
 const QString kHelpOption = QStringLiteral("help");
 const QString kVersionOption = QStringLiteral("version");
-const QString kJsonOption = QStringLiteral("json");
 const QString kScreenshotOption = QStringLiteral("screenshot");
 const QString kQuitOption = QStringLiteral("quit-when-shown");
 const QString kThemeOption = QStringLiteral("theme");
@@ -34,11 +30,10 @@ void AddOptions(QCommandLineParser& parser) {
         QStringLiteral("Shows the documents of a CAD folder and what they refer to."));
     parser.addPositionalArgument(QStringLiteral("FILE"),
                                  QStringLiteral("part, assembly or drawing"),
-                                 QStringLiteral("[tree] [FILE]"));
+                                 QStringLiteral("[FILE]"));
     parser.addOptions({
         {{QStringLiteral("h"), kHelpOption}, QStringLiteral("Shows this text.")},
         {{QStringLiteral("v"), kVersionOption}, QStringLiteral("Shows the version.")},
-        {kJsonOption, QStringLiteral("Prints the tree as JSON.")},
         {kScreenshotOption, QStringLiteral("Writes a picture of the window to PNG and ends."),
          QStringLiteral("PNG")},
         {kQuitOption, QStringLiteral("Ends once the window is on screen.")},
@@ -52,38 +47,36 @@ void AddOptions(QCommandLineParser& parser) {
 QString HelpText() {
     QCommandLineParser parser;
     AddOptions(parser);
-    return parser.helpText() + QLatin1String(kHelp);
+    QString text = parser.helpText();
+    text += QStringLiteral("\nCommands (docbench COMMAND --help tells more):\n");
+    for (const auto& command : AllCommands())
+        text += QStringLiteral("  %1%2\n").arg(command->Name(), -16).arg(command->Summary());
+    return text + u'\n' + QLatin1String(kExitCodes);
 }
 
 CommandLine ParseCommandLine(const QStringList& arguments) {
+    CommandLine line;
+    if (FindCommand(arguments.value(1))) {
+        line.does = CommandLine::Does::Command;
+        line.command = arguments[1];
+        line.words = arguments.mid(2);
+        return line;
+    }
     QCommandLineParser parser;
     AddOptions(parser);
     if (!parser.parse(arguments))
         return Wrong(parser.errorText());
-
-    CommandLine line;
     if (parser.isSet(kHelpOption) || parser.isSet(kVersionOption)) {
         line.does =
             parser.isSet(kHelpOption) ? CommandLine::Does::Help : CommandLine::Does::Version;
         return line;
     }
-    QStringList words = parser.positionalArguments();
-    if (!words.isEmpty() && words.first() == QLatin1String("tree")) {
-        line.does = CommandLine::Does::Tree;
-        words.removeFirst();
-        if (words.isEmpty())
-            return Wrong(QStringLiteral("The command tree needs a FILE."));
-    }
-    const bool asksForWindow =
-        parser.isSet(kScreenshotOption) || parser.isSet(kThemeOption) || parser.isSet(kQuitOption);
-    if (asksForWindow && line.does == CommandLine::Does::Tree)
-        return Wrong(QStringLiteral("The command tree opens no window."));
+    const QStringList words = parser.positionalArguments();
     if (words.size() > 1)
-        return Wrong(QStringLiteral("One FILE only."));
-    if (parser.isSet(kJsonOption) && line.does != CommandLine::Does::Tree)
-        return Wrong(QStringLiteral("--json goes with the command tree."));
+        return Wrong(QStringLiteral("One FILE only, and no command is named %1.").arg(words[0]));
     line.file = words.value(0);
-    line.json = parser.isSet(kJsonOption);
+    if (const QString problem = PasswordProblem(words); !problem.isEmpty())
+        return Wrong(problem);
     line.screenshot = parser.value(kScreenshotOption);
     line.quitWhenShown = parser.isSet(kQuitOption);
     line.theme = parser.value(kThemeOption);

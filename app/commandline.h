@@ -7,11 +7,12 @@
 namespace docbench {
 
 struct CommandLine {
-    enum class Does { Window, Tree, Help, Version, WrongUsage };
+    enum class Does { Window, Command, Help, Version, WrongUsage };
 
     Does does = Does::Window;
-    QString file;  // document to open; empty for none
-    bool json = false;
+    QString file;     // document to open; empty for none
+    QString command;  // its name; `words` are what stands behind it
+    QStringList words;
     QString screenshot;          // picture to write instead of waiting for the user; empty for none
     bool quitWhenShown = false;  // ends once the window is on screen: for measuring the start
     QString theme = QStringLiteral("system");

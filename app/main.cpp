@@ -6,18 +6,13 @@
 #include <QTimer>
 
 #include "app/commandline.h"
+#include "app/commands/commandset.h"
 #include "app/consoledialogs.h"
 #include "app/exitcodes.h"
 #include "app/mainwindow.h"
 #include "app/theme.h"
-#include "app/treecommand.h"
 #include "platform/desktopseams.h"
-#include "services/documentlibrary.h"
-#include "services/language.h"
-#include "services/paths.h"
-#include "services/scratch.h"
 #include "services/seams.h"
-#include "services/webcopies.h"
 #include "shell/picturestore.h"
 
 namespace docbench {
@@ -25,21 +20,6 @@ namespace docbench {
 namespace {
 
 const char kVersion[] = DOCBENCH_VERSION;
-
-int RunTree(int argc, char* argv[], const CommandLine& line) {
-    const QCoreApplication application(argc, argv);
-    ConsoleDialogs dialogs;
-    gSeams.dialogs = &dialogs;
-    DocumentLibrary library;
-    gSeams.documents = library.Access();
-    LoadResources();
-    PrepareScratch();
-    UseWebFolders();
-    const QString path = IsWebPath(line.file) ? line.file : QFileInfo(line.file).absoluteFilePath();
-    const int result = PrintTree(path, line.json ? TreeFormat::Json : TreeFormat::Text);
-    DeleteScratch();
-    return result;
-}
 
 int WriteScreenshot(MainWindow& window, const QString& file) {
     if (window.grab().save(file))
@@ -54,7 +34,7 @@ int RunWindow(int argc, char* argv[], const CommandLine& line) {
     ApplyTheme(line.theme);
     const DesktopSeams seams;
     const bool endsAlone = line.quitWhenShown || !line.screenshot.isEmpty();
-    ConsoleDialogs unattended;
+    ConsoleDialogs unattended(line.file);
     if (endsAlone)
         gSeams.dialogs = &unattended;  // nobody is there to answer
     MainWindow window;
@@ -84,8 +64,10 @@ int Main(int argc, char* argv[]) {
     QCoreApplication::setApplicationName(QStringLiteral("docbench"));
     const CommandLine line = ParseCommandLine(arguments);
     switch (line.does) {
-        case CommandLine::Does::Tree:
-            return RunTree(argc, argv, line);
+        case CommandLine::Does::Command: {
+            const QCoreApplication application(argc, argv);
+            return RunCommand(*FindCommand(line.command), line.words);
+        }
         case CommandLine::Does::Window:
             return RunWindow(argc, argv, line);
         case CommandLine::Does::Help: {

@@ -72,8 +72,10 @@ void FillList(const Project& project, CellList& list) {
                               .status = [](const QString&) {},
                               .yield = [] {},
                               .cancelled = [] { return false; },
-                              .progress = [](const SearchCounts&) {}};
-    SearchHolders(search, project.folder, list);
+                              .progress = [](const SearchCounts&, int) {}};
+    RowBatch rows = RenameRows(list);
+    SearchHolders(search, project.folder, rows);
+    rows.Flush();
 }
 
 // Renames the part again and again: the list stays good for the next time.

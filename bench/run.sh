@@ -11,7 +11,7 @@ bin=build/release/bin
 sample=$("$bin/docbench-samples" out/sample-library | tail -n 1)
 
 result=0
-for benchmark in readrows save loadtree preview whereused rename propertysearch webtransfer "startup $sample"; do
+for benchmark in readrows save loadtree preview whereused rename copy propertysearch webtransfer "startup $sample"; do
     echo "== $benchmark"
     # shellcheck disable=SC2086
     "$bin"/bench-$benchmark 2>/dev/null || result=1

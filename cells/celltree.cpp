@@ -30,6 +30,12 @@ void CellTree::Assign(CellNodes nodes) {
     endResetModel();
 }
 
+void CellTree::SetText(int node, const QString& text) {
+    nodes_.At(node).text = text;
+    const QModelIndex index = IndexOf(node);
+    Q_EMIT dataChanged(index, index, {Qt::DisplayRole});
+}
+
 void CellTree::SetImage(int node, const QString& image) {
     nodes_.At(node).image = image;
     const QModelIndex index = IndexOf(node);

@@ -56,6 +56,7 @@ public:
     const CellNodes& Nodes() const { return nodes_; }
     int Count() const { return nodes_.Count(); }
 
+    void SetText(int node, const QString& text);
     void SetImage(int node, const QString& image);
     void SetBackColor(int node, CellColor color);
 

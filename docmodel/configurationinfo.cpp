@@ -1,5 +1,6 @@
 #include "docmodel/configurationinfo.h"
 
+#include "docmodel/coreproperties.h"
 #include "docmodel/packageerror.h"
 
 namespace docmodel {
@@ -45,8 +46,9 @@ bool ConfigurationInfo::DeleteCustomProperty(const QString& name) {
     return Bound().Delete(name);
 }
 
-QByteArray ConfigurationInfo::GetStamp() {
-    return Bound().StampAtOpen();
+QByteArray ConfigurationInfo::GetStamp(PropertyGroup group) {
+    const PropertySet& properties = Bound();
+    return group == PropertyGroup::Summary ? StampOf(Summary()) : properties.StampAtOpen();
 }
 
 // By its id, which it keeps when it is renamed; rows of other writers may have none.

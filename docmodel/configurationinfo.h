@@ -8,6 +8,8 @@
 
 namespace docmodel {
 
+using docbench::PropertyGroup;
+
 class ConfigurationInfo : public docbench::DocumentInfo {
 public:
     ConfigurationInfo(const BoundPath& path, StoredConfiguration configuration,
@@ -36,7 +38,7 @@ public:
     void SetLocked(bool) override { RaiseNoSummary(); }
     QString GetLockedBy() override { return {}; }
     void SetLockedBy(const QString&) override { RaiseNoSummary(); }
-    QByteArray GetStamp() override;
+    QByteArray GetStamp(PropertyGroup group) override;
 
 private:
     [[noreturn]] void RaiseNoSummary() const;

@@ -289,11 +289,11 @@ void DocumentFileObject::RequireConfigurations(DocumentChange& change) {
     const DocumentPart& newest = change.Content().Tables();
     change.RequireUnchanged(StampOf(newest.Configurations()), state.Configurations().StampAtOpen(),
                             QStringLiteral("list of configurations"));
+    const QList<StoredConfiguration> rows = newest.Configurations();
     for (const int deleted : state.deletedConfigurations)
-        change.RequireUnchanged(
-            StampOf(newest.ConfigurationProperties(deleted)),
-            StampOf(state.part.ConfigurationProperties(deleted)),
-            QStringLiteral("configuration %1").arg(newest.Configurations()[deleted].name));
+        change.RequireUnchanged(StampOf(newest.ConfigurationProperties(deleted)),
+                                StampOf(state.part.ConfigurationProperties(deleted)),
+                                QStringLiteral("configuration %1").arg(rows[deleted].name));
 }
 
 void DocumentFileObject::Apply(DocumentPart& tables) const {

@@ -202,9 +202,10 @@ void DocumentInfoObject::SetLockedBy(const QString& user) {
     state.lockUserChanged = true;
 }
 
-QByteArray DocumentInfoObject::GetStamp() {
+QByteArray DocumentInfoObject::GetStamp(PropertyGroup group) {
     const State& state = Bound();
-    return StampOf(state.summaryAtOpen) + state.custom.StampAtOpen();
+    return group == PropertyGroup::Summary ? StampOf(state.summaryAtOpen)
+                                           : state.custom.StampAtOpen();
 }
 
 }  // namespace docmodel

@@ -10,6 +10,8 @@
 
 namespace docmodel {
 
+using docbench::PropertyGroup;
+
 class DocumentInfoObject : public docbench::DocumentInfo {
 public:
     bool Open(const QString& path) override;
@@ -35,7 +37,7 @@ public:
     void SetLocked(bool locked) override;
     QString GetLockedBy() override;
     void SetLockedBy(const QString& user) override;
-    QByteArray GetStamp() override;
+    QByteArray GetStamp(PropertyGroup group) override;
 
 private:
     // What is known of the bound document; the texts with the edits, and as they were at Open.

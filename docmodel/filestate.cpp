@@ -15,20 +15,14 @@ namespace {
 
 constexpr qint64 kSecond = 1'000'000'000;
 
-// Disks of this machine, whose clock is its own. It ticks in milliseconds, but the disk may be
-// mounted by a system whose times are whole seconds.
+// Disks of this machine, whose clock is its own, and that keep a change time. It ticks in
+// milliseconds, but the disk may be mounted by a system whose times are whole seconds.
+// All others are not trusted: a server's changes are told late, and from its clock; and where no
+// change time is kept, a file that is given its old modified time back looks as it did.
 constexpr std::array<quint32, 8> kLocalDisks = {
     EXT4_SUPER_MAGIC, XFS_SUPER_MAGIC,       BTRFS_SUPER_MAGIC,    F2FS_SUPER_MAGIC,
     TMPFS_MAGIC,      OVERLAYFS_SUPER_MAGIC, 0x2FC12FC1 /* ZFS */, 0xCA451A4E /* bcachefs */};
 constexpr qint64 kLocalGrain = 2 * kSecond;
-
-// Disks, or programs in their place, that keep no change time: a file that is given its old
-// modified time back looks as it did.
-constexpr std::array<quint32, 3> kForgetfulDisks = {MSDOS_SUPER_MAGIC, EXFAT_SUPER_MAGIC,
-                                                    FUSE_SUPER_MAGIC};
-
-// Servers have clocks of their own, and we may be told of a change late.
-constexpr qint64 kServerGrain = 60 * kSecond;
 
 // Times so far off that they don't fit are the farthest that do.
 qint64 Nanoseconds(const timespec& time) {
@@ -43,16 +37,17 @@ FileState StateOf(const struct stat& status) {
             status.st_ino};
 }
 
+std::optional<qint64> GrainOf(quint32 diskKind) {
+    if (std::find(kLocalDisks.begin(), kLocalDisks.end(), diskKind) == kLocalDisks.end())
+        return std::nullopt;
+    return kLocalGrain;
+}
+
 std::optional<qint64> ClockGrain(int folder) {
     struct statfs disk;
     if (fstatfs(folder, &disk) != 0)
         return std::nullopt;
-    const auto isIn = [&](const auto& kinds) {
-        return std::find(kinds.begin(), kinds.end(), quint32(disk.f_type)) != kinds.end();
-    };
-    if (isIn(kForgetfulDisks))
-        return std::nullopt;
-    return isIn(kLocalDisks) ? kLocalGrain : kServerGrain;
+    return GrainOf(quint32(disk.f_type));
 }
 
 bool IsSettled(const FileState& state, qint64 readAt, qint64 grain) {

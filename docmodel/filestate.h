@@ -24,6 +24,7 @@ FileState StateOf(const struct stat& status);
 // How long after a file's times it may be changed again without getting later ones, in nanoseconds,
 // on the disk of an open folder. None where a change may never show.
 std::optional<qint64> ClockGrain(int folder);
+std::optional<qint64> GrainOf(quint32 diskKind);  // as fstatfs tells the kind
 
 // Whether a file that was in this state at `readAt` will be in another one after any later change.
 bool IsSettled(const FileState& state, qint64 readAt, qint64 grain);

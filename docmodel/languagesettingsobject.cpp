@@ -2,30 +2,20 @@
 
 #include <QLocale>
 
+#include "services/languagechoice.h"
 #include "services/localefont.h"
 
 namespace docmodel {
 
-// The folder is named after the language in English, such as "/lang/german", whether or not it
-// exists. The locales without a language speak English; the two scripts of Chinese are two
-// languages to a reader.
+// What the user chose comes before what the locale says. The folder may not exist.
 QString LanguageSettingsObject::GetLanguageFolder() {
+    const QString folder = QStringLiteral("/lang/");
+    if (const QString chosen = docbench::ChosenLanguage(); !chosen.isEmpty())
+        return folder + chosen;
     const QStringList languages = QLocale::system().uiLanguages();
     if (languages.isEmpty())
         return {};
-    const QLocale locale(languages.first());
-    const QString folder = QStringLiteral("/lang/");
-    switch (locale.language()) {
-        case QLocale::C:
-        case QLocale::AnyLanguage:
-            return folder + QStringLiteral("english");
-        case QLocale::Chinese:
-            return folder + (locale.script() == QLocale::TraditionalHanScript
-                                 ? QStringLiteral("chinese-traditional")
-                                 : QStringLiteral("chinese-simplified"));
-        default:
-            return folder + QLocale::languageToString(locale.language()).toLower();
-    }
+    return folder + docbench::LanguageFolderOf(QLocale(languages.first()));
 }
 
 void LanguageSettingsObject::ApplyLocaleFont(QFont& font) {

@@ -37,17 +37,20 @@ target_sources(docmodel_core PRIVATE
     webfolderclientobject.cpp
     webfolderlistingobject.cpp
     weblogin.cpp
+    webmemory.cpp
     webpropfind.cpp
     webreceiver.cpp
     websession.cpp
+    webupload.cpp
     webversion.cpp
     webwatch.cpp
     xml.cpp
-    # What a document's name means, how users write dates and numbers, and who the user is have one
+    # What names and addresses mean, how users write dates and numbers, and who the user is have one
     # home; the library takes them from there without taking the services.
     ${PROJECT_SOURCE_DIR}/services/localvalues.cpp
     ${PROJECT_SOURCE_DIR}/services/paths.cpp
-    ${PROJECT_SOURCE_DIR}/services/username.cpp)
+    ${PROJECT_SOURCE_DIR}/services/username.cpp
+    ${PROJECT_SOURCE_DIR}/services/webauthority.cpp)
 
 # A program loads it from its own folder by this name.
 add_library(docmodel MODULE plugin.cpp)

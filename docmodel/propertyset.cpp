@@ -29,19 +29,27 @@ bool IsSame(const CustomProperty& property, const PropertyValue& value) {
 
 }  // namespace
 
+bool PropertySet::Holds(const QString& name, const PropertyValue& value) const {
+    return std::any_of(current_.begin(), current_.end(), [&](const CustomProperty& property) {
+        return property.name == name && IsSame(property, value);
+    });
+}
+
 bool PropertySet::Set(const QString& name, const QVariant& value) {
     const std::optional<PropertyValue> stored = PropertyValueFor(value);
     if (name.isEmpty() || !IsXmlText(name) || !stored)
         return false;
+    // Packages of others may have a name twice: either value, given back, is no edit.
+    if (Holds(name, *stored))
+        return true;
     const qsizetype index = Find(name);
     if (index < 0) {
         current_.append({name, stored->value, stored->type});
+    } else if (IsSame(current_[index], *stored)) {
+        return true;
     } else {
-        CustomProperty& property = current_[index];
-        if (IsSame(property, *stored))
-            return true;
-        property.value = stored->value;
-        property.type = stored->type;
+        current_[index].value = stored->value;
+        current_[index].type = stored->type;
     }
     edits_.append({name, stored});
     return true;

@@ -31,6 +31,7 @@ private:
         QString name;
         std::optional<PropertyValue> value;  // none: deleted
     };
+    bool Holds(const QString& name, const PropertyValue& value) const;
     qsizetype Find(const QString& name) const;  // -1 if there is none
     QList<CustomProperty> current_;
     QList<Edit> edits_;

@@ -7,6 +7,8 @@
 #include <QStringList>
 #include <algorithm>
 
+#include "docmodel/webaddress.h"
+
 namespace docmodel {
 namespace {
 
@@ -130,7 +132,7 @@ QString HolderFolder(const QString& path) {
 
 StoredPath StoredPathFor(const QString& path, const QString& holderFolder) {
     if (IsUrl(path))
-        return {path, {}};
+        return {WithoutUser(path), {}};  // documents go to others, and passwords with them
     const QString slashed = WithSlashes(path);
     const QString given = IsAbsolute(slashed) ? path : CleanPath(holderFolder + slashed);
     return {given, RelativeTo(holderFolder, CleanPath(given))};

@@ -31,7 +31,7 @@ QString AbsolutePath(const QString& path);
 QString HolderFolder(const QString& path);
 
 // What a row of a document in `holderFolder` stores for `path`: a URL, an absolute path, or a path
-// relative to that folder.
+// relative to that folder. A user and password that stand in a URL are not stored.
 StoredPath StoredPathFor(const QString& path, const QString& holderFolder);
 
 // The one or two paths that a row of a local document can point at, cleaned. Which one it is, only

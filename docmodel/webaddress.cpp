@@ -222,14 +222,4 @@ QString UnescapedForUser(const QByteArray& escaped) {
     return segments.join(u'/');
 }
 
-QString WithoutUser(const QString& text) {
-    const QString slashed = QString(text).replace(u'\\', u'/');
-    const qsizetype separator = slashed.indexOf(QLatin1String(kSeparator));
-    const qsizetype start = separator < 0 ? 0 : separator + kSeparatorLength;
-    const qsizetype slash = slashed.indexOf(u'/', start);
-    const qsizetype end = slash < 0 ? slashed.size() : slash;
-    const qsizetype at = slashed.left(end).lastIndexOf(u'@');
-    return at < start ? text : text.left(start) + text.mid(at + 1);
-}
-
 }  // namespace docmodel

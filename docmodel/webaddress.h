@@ -5,6 +5,8 @@
 #include <QString>
 #include <optional>
 
+#include "services/webauthority.h"
+
 namespace docmodel {
 
 struct WebAddress {
@@ -35,7 +37,6 @@ struct WebAddress {
 // same path for it.
 QString UnescapedForUser(const QByteArray& escaped);
 
-// An address as it was written, without "user:password@". For whatever text.
-QString WithoutUser(const QString& text);
+using docbench::WithoutUser;
 
 }  // namespace docmodel

@@ -3,8 +3,8 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-#include <QCryptographicHash>
 #include <QFile>
+#include <algorithm>
 #include <cerrno>
 
 #include "docmodel/fileops.h"
@@ -12,6 +12,7 @@
 #include "docmodel/weberror.h"
 #include "docmodel/webfolderlistingobject.h"
 #include "docmodel/webreceiver.h"
+#include "docmodel/webupload.h"
 
 namespace docmodel {
 namespace {
@@ -34,16 +35,6 @@ WebAddress Address(const QString& url, const QString& done) {
 void RequireSuccess(const WebAnswer& answer, const WebAddress& address, const QString& done) {
     if (!answer.IsSuccess())
         throw WebError(address, done, StatusReason(answer.status, answer.phrase));
-}
-
-QByteArray DigestOfFile(int file) {
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    QByteArray block(256 << 10, Qt::Uninitialized);
-    ssize_t count = 0;
-    for (off_t at = 0; (count = ReadUpTo(file, block.data(), size_t(block.size()), at)) > 0;
-         at += count)
-        hash.addData(QByteArrayView(block.constData(), count));
-    return count < 0 ? QByteArray() : hash.result();
 }
 
 // The listed folder's address as it was written, ready for a name.
@@ -86,7 +77,11 @@ void WebFolderClientObject::Download(const WebAddress& address, const QString& l
     WebSession& session = SessionFor(address);
     const WebAnswer answer = session.Send(address, request);
     RequireSuccess(answer, address, Downloaded());
-    if (answer.status != 200 && answer.status != 203)
+    if (answer.status == 203)
+        throw WebError(address, Downloaded(),
+                       QStringLiteral("a server on the way changes it. Ask the network's "
+                                      "administrator for a way round it"));
+    if (answer.status != 200)
         throw WebError(address, Downloaded(), StatusReason(answer.status, answer.phrase));
     const QByteArray packing = answer.Header("content-encoding").toLower();
     if (!packing.isEmpty() && packing != "identity")
@@ -95,11 +90,11 @@ void WebFolderClientObject::Download(const WebAddress& address, const QString& l
                                       "administrator"));
     // A body that ends with its connection may have ended too early.
     if (!receiver.KnowsLength() && !answer.headers.contains("transfer-encoding"))
-        receiver.Expect(VersionNow(answer.address).length);
+        receiver.Expect(VersionNow(session, answer.address).length);
     if (!receiver.IsWhole())
         throw WebError(address, Downloaded(), QStringLiteral("it was cut short. Try again"));
     receiver.Place();
-    known_.insert(address.Sent(), receiver.Version());
+    memory_.Downloaded(localPath, address, receiver.Version());
 }
 
 bool WebFolderClientObject::PutFile(const QString& localPath, const QString& url) {
@@ -113,108 +108,9 @@ void WebFolderClientObject::Upload(const QString& localPath, const WebAddress& a
         throw SystemError(localPath, QStringLiteral("read"), errno);
     if (!S_ISREG(status.st_mode))
         throw SystemError(localPath, QStringLiteral("read"), ENXIO);
-    WebSession& session = SessionFor(address);
-    // So that no large body is sent only to hear that a password is wanted.
-    if (!session.HasAnswered())
-        Knock(session, address, Uploaded());
-    WebRequest request{.method = "PUT", .done = Uploaded()};
-    request.headers = ConditionFor(address);
-    request.file = file.Get();
-    request.fileBytes = status.st_size;
-    const WebAnswer answer = session.Send(address, request);
-    if (!answer.IsSuccess() || answer.status == 207)
-        RaiseRefusedUpload(address, answer);
-    overwritable_.remove(address.Sent());
-    known_.insert(address.Sent(), VersionAfterUpload(answer, file.Get(), status.st_size));
-}
-
-QList<std::pair<QByteArray, QByteArray>> WebFolderClientObject::ConditionFor(
-    const WebAddress& address) {
-    const QByteArray key = address.Sent();
-    if (overwritable_.contains(key))
-        return {};
-    const auto known = known_.constFind(key);
-    if (known == known_.constEnd())
-        return {{"If-None-Match", "*"}};
-    if (known->HasSureTag())
-        return {{"If-Match", known->tag}};
-    RequireUnchanged(address, *known);
-    return {};
-}
-
-void WebFolderClientObject::RequireUnchanged(const WebAddress& address, const WebVersion& known) {
-    WebResource resource = AskFor(SessionFor(address), address, Uploaded());
-    if (!resource.isThere)
-        throw WebError(address, Uploaded(),
-                       QStringLiteral("it was removed from the server since it was downloaded. "
-                                      "Save your copy under another name, or put it there anew"));
-    if (!known.digest.isEmpty())
-        resource.version.digest = DigestOnServer(address);
-    switch (Compare(known, resource.version)) {
-        case VersionMatch::Same:
-            return;
-        case VersionMatch::Changed:
-            throw WebError(
-                address, Uploaded(),
-                QStringLiteral("it was changed on the server since it was downloaded. Your copy is "
-                               "kept: look at the one on the server, then bring the changes "
-                               "together"));
-        case VersionMatch::Unknown:
-            throw WebError(
-                address, Uploaded(),
-                QStringLiteral("the server does not tell whether it was changed since it was "
-                               "downloaded. Your copy is kept: look at the one on the server"));
-    }
-}
-
-QByteArray WebFolderClientObject::DigestOnServer(const WebAddress& address) {
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    WebRequest request{.method = "GET", .done = Uploaded()};
-    request.started = [&](const WebAnswer&) { hash.reset(); };
-    request.received = [&](const char* bytes, size_t count) {
-        hash.addData(QByteArrayView(bytes, qsizetype(count)));
-    };
-    RequireSuccess(SessionFor(address).Send(address, request), address, Uploaded());
-    return hash.result();
-}
-
-void WebFolderClientObject::RaiseRefusedUpload(const WebAddress& address, const WebAnswer& answer) {
-    if (answer.status != 412)
-        throw WebError(address, Uploaded(), StatusReason(answer.status, answer.phrase));
-    const auto known = known_.constFind(address.Sent());
-    if (known == known_.constEnd())
-        throw WebError(address, Uploaded(),
-                       QStringLiteral("there is such a file on the server already. Confirm that "
-                                      "it is to be replaced, or choose another name"));
-    RequireUnchanged(address, *known);
-    throw WebError(address, Uploaded(),
-                   QStringLiteral("the server does not agree that it is the file that was "
-                                  "downloaded. Your copy is kept: look at the one on the server"));
-}
-
-WebVersion WebFolderClientObject::VersionNow(const WebAddress& address) {
-    try {
-        return AskFor(SessionFor(address), address, QStringLiteral("asked for")).version;
-    } catch (const DocumentError&) {
-        // What was to be done is done. That nothing is known now makes the next upload careful.
-        return {};
-    }
-}
-
-// What lies on the server now is ours if it is as long as what was sent.
-WebVersion WebFolderClientObject::VersionAfterUpload(const WebAnswer& answer, int file,
-                                                     qint64 bytes) {
-    WebVersion version = VersionOf(answer);
-    version.length = bytes;
-    if (version.HasSureTag())
-        return version;
-    WebVersion asked = VersionNow(answer.address);
-    if (asked.length >= 0 && asked.length != bytes)
-        asked = WebVersion();
-    asked.length = bytes;
-    if (!asked.HasValidator())
-        asked.digest = DigestOfFile(file);
-    return asked;
+    WebUpload upload(SessionFor(address), address, file.Get(), status.st_size);
+    memory_.Uploaded(localPath, address,
+                     upload.Run(memory_.Find(localPath, address), memory_.MayOverwrite(address)));
 }
 
 bool WebFolderClientObject::MakeFolder(const QString& url) {
@@ -245,6 +141,7 @@ void WebFolderClientObject::Move(const WebAddress& from, const WebAddress& to, b
     if (!from.IsOnSameServer(to))
         throw WebError(from, done,
                        QStringLiteral("that is another server. Download it and upload it there"));
+    PrepareTagsForMove(from);
     WebRequest request{.method = "MOVE", .done = done};
     request.headers = {{"Destination", to.Sent()}, {"Overwrite", overwrite ? "T" : "F"}};
     const WebAnswer answer = SessionFor(from).Send(from, request);
@@ -257,38 +154,35 @@ void WebFolderClientObject::Move(const WebAddress& from, const WebAddress& to, b
         throw WebError(from, done,
                        QStringLiteral("the server moved only a part of it. Look at both folders "
                                       "on the server"));
-    CarryOver(from, to);
+    memory_.Moved(from, to);
+    AdoptMovedTags(to);
 }
 
-// A folder takes along what is known of the files in it.
-void WebFolderClientObject::CarryOver(const WebAddress& from, const WebAddress& to) {
-    const QByteArray fromFolder = from.AsFolder().Sent();
-    const QByteArray toFolder = to.AsFolder().Sent();
-    known_.removeIf([&](const auto& entry) {
-        return entry.key() == to.Sent() || entry.key().startsWith(toFolder);
-    });
-    QHash<QByteArray, WebVersion> moved;
-    for (auto entry = known_.begin(); entry != known_.end();) {
-        const bool isBelow = entry.key().startsWith(fromFolder);
-        if (!isBelow && entry.key() != from.Sent()) {
-            ++entry;
-            continue;
-        }
-        moved.insert(isBelow ? toFolder + entry.key().mid(fromFolder.size()) : to.Sent(), *entry);
-        entry = known_.erase(entry);
+// Some servers make tags of the name as well. What has the same length and date after the move is
+// the same file; the answer to an upload tells no date.
+void WebFolderClientObject::PrepareTagsForMove(const WebAddress& from) {
+    const auto isUndated = [](const WebVersion* known) {
+        return known->modified < 0 && !known->tag.isEmpty();
+    };
+    const QList<WebVersion*> before = memory_.VersionsAt(from);
+    if (std::none_of(before.begin(), before.end(), isUndated))
+        return;
+    const WebVersion now = VersionNow(SessionFor(from), from);
+    for (WebVersion* known : memory_.VersionsAt(from)) {
+        if (isUndated(known) && HaveSameTag(*known, now))
+            known->modified = now.modified;
     }
-    known_.insert(moved);
-    if (known_.contains(to.Sent()))
-        AdoptMovedTag(to);
 }
 
-// Some servers make tags of the name as well. What has the same length and date is the same file.
-void WebFolderClientObject::AdoptMovedTag(const WebAddress& address) {
-    WebVersion& known = known_[address.Sent()];
-    const WebVersion now = VersionNow(address);
-    if (known.modified >= 0 && now.modified == known.modified && now.length == known.length &&
-        !now.tag.isEmpty())
-        known.tag = now.tag;
+void WebFolderClientObject::AdoptMovedTags(const WebAddress& to) {
+    if (memory_.VersionsAt(to).isEmpty())
+        return;
+    const WebVersion now = VersionNow(SessionFor(to), to);
+    for (WebVersion* known : memory_.VersionsAt(to)) {
+        if (known->modified >= 0 && now.modified == known->modified &&
+            now.length == known->length && !now.tag.isEmpty())
+            known->tag = now.tag;
+    }
 }
 
 std::unique_ptr<docbench::WebFolderListing> WebFolderClientObject::ListFolder(const QString& url) {
@@ -315,7 +209,7 @@ WebFolderClientObject::Presence WebFolderClientObject::Exists(const QString& url
 
 void WebFolderClientObject::AllowOverwrite(const QString& url) {
     if (const std::optional<WebAddress> address = WebAddress::FromUser(url))
-        overwritable_.insert(address->Sent());
+        memory_.AllowOverwrite(*address);
 }
 
 }  // namespace docmodel

@@ -1,13 +1,12 @@
 // The transfers with web folders, and the memory of what was there.
 #pragma once
 
-#include <QHash>
-#include <QSet>
 #include <functional>
 #include <map>
 #include <memory>
 
-#include "docmodel/webpropfind.h"
+#include "docmodel/webmemory.h"
+#include "docmodel/websession.h"
 #include "services/docaccess.h"
 
 namespace docmodel {
@@ -24,6 +23,9 @@ public:
     std::unique_ptr<docbench::WebFolderListing> ListFolder(const QString& url) override;
     Presence Exists(const QString& url) override;
     void AllowOverwrite(const QString& url) override;
+    void LocalFileMoved(const QString& from, const QString& to) override {
+        memory_.LocalFileMoved(from, to);
+    }
     QString LastError() const override { return lastError_; }
 
 private:
@@ -32,23 +34,14 @@ private:
     WebSession& SessionFor(const WebAddress& address);
 
     void Download(const WebAddress& address, const QString& localPath);
-    QByteArray DigestOnServer(const WebAddress& address);
     void Upload(const QString& localPath, const WebAddress& address);
-    // The condition under which an upload can't overwrite anybody's work. Raises when it would.
-    QList<std::pair<QByteArray, QByteArray>> ConditionFor(const WebAddress& address);
-    void RequireUnchanged(const WebAddress& address, const WebVersion& known);
-    [[noreturn]] void RaiseRefusedUpload(const WebAddress& address, const WebAnswer& answer);
-    // What the server tells of a file, if it does.
-    WebVersion VersionNow(const WebAddress& address);
-    WebVersion VersionAfterUpload(const WebAnswer& answer, int file, qint64 bytes);
     void Move(const WebAddress& from, const WebAddress& to, bool overwrite);
-    void CarryOver(const WebAddress& from, const WebAddress& to);
-    void AdoptMovedTag(const WebAddress& address);
+    void PrepareTagsForMove(const WebAddress& from);
+    void AdoptMovedTags(const WebAddress& to);
 
     const docbench::WebClientSettings settings_;
     std::map<QString, std::unique_ptr<WebSession>> sessions_;  // by server
-    QHash<QByteArray, WebVersion> known_;  // by address, as it was downloaded or uploaded
-    QSet<QByteArray> overwritable_;        // addresses
+    WebMemory memory_;
     QString lastError_;
 };
 

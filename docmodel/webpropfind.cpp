@@ -200,4 +200,12 @@ WebResource AskFor(WebSession& session, const WebAddress& address, const QString
     return resources.first();
 }
 
+WebVersion VersionNow(WebSession& session, const WebAddress& address) {
+    try {
+        return AskFor(session, address, QStringLiteral("asked for")).version;
+    } catch (const DocumentError&) {
+        return {};
+    }
+}
+
 }  // namespace docmodel

@@ -40,4 +40,8 @@ void Knock(WebSession& session, const WebAddress& address, const QString& done);
 // DocumentError when the server does not tell.
 WebResource AskFor(WebSession& session, const WebAddress& address, const QString& done);
 
+// The version that is at an address now, after what was to be done is done: nothing where the
+// server does not tell, which makes the next upload careful.
+WebVersion VersionNow(WebSession& session, const WebAddress& address);
+
 }  // namespace docmodel

@@ -5,6 +5,7 @@
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QTimer>
 #include <array>
 #include <cstring>
 
@@ -175,6 +176,8 @@ WebSession::Request WebSession::Prepared(const WebAddress& address, const WebReq
 }
 
 WebAnswer WebSession::SendOnce(const WebAddress& address, const WebRequest& request) {
+    if (!silence_.isEmpty())
+        throw WebError(address, request.done, silence_);
     const Request handle = Prepared(address, request);
     certificateFailures_ = 0;
     timedOut_ = false;
@@ -251,25 +254,39 @@ void WebSession::ReadBody(ne_request* handle, const WebRequest& request, const W
     }
 }
 
-void WebSession::RaiseFailure(int result, const WebAddress& address, const WebRequest& request) {
-    QString reason;
+QString WebSession::ReasonOf(int result, const WebAddress& address) const {
     if (certificateFailures_ != 0)
-        reason = CertificateReason(certificateFailures_);
-    else if (result == NE_TIMEOUT || timedOut_ || watch_.HasBrokenOff())
-        reason = QStringLiteral("the server has been silent for %1 seconds. Try again later")
-                     .arg(settings_.timeoutSeconds);
-    else if (result == NE_LOOKUP)
-        reason =
-            QStringLiteral("no server of the name %1 is known. Check the address and the network")
-                .arg(QString::fromLatin1(address.host));
-    else if (result == NE_CONNECT)
-        reason = QStringLiteral("no server answers at %1. Check the address and the network")
-                     .arg(address.Server());
-    else if (result == NE_AUTH)
-        reason = login_.Problem();
-    else
-        reason = QStringLiteral("the connection broke off (%1). Try again")
-                     .arg(QString::fromLocal8Bit(ne_get_error(session_.get())));
+        return CertificateReason(certificateFailures_);
+    if (IsSilence(result))
+        return QStringLiteral("the server has been silent for %1 seconds. Try again later")
+            .arg(settings_.timeoutSeconds);
+    if (result == NE_LOOKUP)
+        return QStringLiteral(
+                   "no server of the name %1 is known. Check the address and the network")
+            .arg(QString::fromLatin1(address.host));
+    if (result == NE_CONNECT)
+        return QStringLiteral("no server answers at %1. Check the address and the network")
+            .arg(address.Server());
+    if (result == NE_AUTH)
+        return login_.Problem();
+    return QStringLiteral("the connection broke off (%1). Try again")
+        .arg(QString::fromLocal8Bit(ne_get_error(session_.get())));
+}
+
+bool WebSession::IsSilence(int result) const {
+    return result == NE_TIMEOUT || timedOut_ || watch_.HasBrokenOff();
+}
+
+void WebSession::RememberSilence(const QString& reason) {
+    silence_ = reason;
+    QTimer::singleShot(0, &occasion_, [this] { silence_.clear(); });
+}
+
+void WebSession::RaiseFailure(int result, const WebAddress& address, const WebRequest& request) {
+    const QString reason = ReasonOf(result, address);
+    const bool isUnreached = result == NE_CONNECT || result == NE_LOOKUP || IsSilence(result);
+    if (isUnreached && certificateFailures_ == 0)
+        RememberSilence(reason);
     throw WebError(address, request.done, reason);
 }
 

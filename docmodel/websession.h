@@ -6,6 +6,7 @@
 
 #include <QHash>
 #include <QList>
+#include <QObject>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -45,7 +46,9 @@ public:
     WebSession& operator=(const WebSession&) = delete;
 
     // Follows redirects within the server. Any status is an answer but 401; DocumentError when
-    // there is none, and when the body does not come whole.
+    // there is none, and when the body does not come whole. A server that could not be reached, or
+    // was silent for too long, is not waited for again until the event loop turns: a tree of a
+    // hundred documents would take a hundred times that long.
     WebAnswer Send(const WebAddress& address, const WebRequest& request);
     // Whether a request has been answered, so that the server has the password if it wants one.
     bool HasAnswered() const { return hasAnswered_; }
@@ -63,6 +66,10 @@ private:
     void CloseConnection();
     int Exchange(ne_request* handle, const WebRequest& request, WebAnswer& answer);
     void ReadBody(ne_request* handle, const WebRequest& request, const WebAnswer& answer);
+    // The reason, in words, why there was no answer.
+    QString ReasonOf(int result, const WebAddress& address) const;
+    bool IsSilence(int result) const;
+    void RememberSilence(const QString& reason);
     [[noreturn]] void RaiseFailure(int result, const WebAddress& address,
                                    const WebRequest& request);
     WebAddress RedirectTarget(const WebAnswer& answer, const WebRequest& request) const;
@@ -75,6 +82,8 @@ private:
     int certificateFailures_ = 0;  // of the last connection
     bool timedOut_ = false;
     bool hasAnswered_ = false;
+    QObject occasion_;  // what the user does now
+    QString silence_;   // why the server gave no answer on this occasion; empty if it did
 };
 
 }  // namespace docmodel

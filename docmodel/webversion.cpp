@@ -43,6 +43,10 @@ WebVersion VersionOf(const WebAnswer& answer) {
     return version;
 }
 
+bool HaveSameTag(const WebVersion& one, const WebVersion& other) {
+    return !one.tag.isEmpty() && Opaque(one.tag) == Opaque(other.tag);
+}
+
 VersionMatch Compare(const WebVersion& known, const WebVersion& now) {
     if (known.length >= 0 && now.length >= 0 && known.length != now.length)
         return VersionMatch::Changed;
@@ -50,7 +54,7 @@ VersionMatch Compare(const WebVersion& known, const WebVersion& now) {
     if (bothDated && known.modified != now.modified)
         return VersionMatch::Changed;
     if (!known.tag.isEmpty() && !now.tag.isEmpty()) {
-        if (Opaque(known.tag) == Opaque(now.tag))
+        if (HaveSameTag(known, now))
             return VersionMatch::Same;
         if (!known.isProxied && !now.isProxied)
             return VersionMatch::Changed;

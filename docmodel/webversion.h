@@ -13,6 +13,7 @@ struct WebVersion {
     qint64 modified = -1;    // seconds since 1970; -1 unknown
     qint64 length = -1;      // bytes; -1 unknown
     QByteArray digest;       // of the contents, where the server tells nothing else
+    QByteArray ending;  // digest of the last bytes, while the rest may be somebody else's version
 
     // The tag can be sent as a condition: it is strong, and the server's own.
     bool HasSureTag() const;
@@ -25,6 +26,9 @@ qint64 SecondsOf(const QByteArray& date);
 
 // From the headers of an answer that has, or would have, the file as its body.
 WebVersion VersionOf(const WebAnswer& answer);
+
+// Both have a tag, and it is the same, be it weak or strong.
+bool HaveSameTag(const WebVersion& one, const WebVersion& other);
 
 enum class VersionMatch { Same, Changed, Unknown };
 

@@ -6,6 +6,7 @@
 #include <QToolButton>
 
 #include "services/language.h"
+#include "services/texts.h"
 #include "shell/languagefonts.h"
 #include "shell/twips.h"
 
@@ -24,6 +25,15 @@ constexpr QMargins kHoverMargins(TwipsToPixels(60), TwipsToPixels(50),
                                  TwipsToPixels(120) - TwipsToPixels(60),
                                  TwipsToPixels(120) - TwipsToPixels(50));
 constexpr int kBarWidth = 104;
+
+// Measured on a caption: the lines of a script that the font itself lacks are higher than its own.
+int CaptionHeight(const QFontMetrics& metrics) {
+    const QString line = Tr(Text::Configurations);
+    return metrics
+        .boundingRect(QRect(0, 0, QWIDGETSIZE_MAX, QWIDGETSIZE_MAX), Qt::AlignTop,
+                      (line + u'\n').repeated(kCaptionLines).chopped(1))
+        .height();
+}
 
 }  // namespace
 
@@ -154,7 +164,7 @@ bool olbar::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void olbar::Measure() {
-    itemHeight = kCaptionLines * fontMetrics().lineSpacing() + kPictureSize + kItemRoom;
+    itemHeight = CaptionHeight(fontMetrics()) + kPictureSize + kItemRoom;
 }
 
 void olbar::Layout() {
@@ -163,8 +173,7 @@ void olbar::Layout() {
         const int top = i * (itemHeight + kBetweenItems) + kTop;
         Image1[size_t(i)]->move(itemLeft, top);
         Label1[size_t(i)]->setGeometry(kCaptionInset, top + kPictureSize + kAboveCaption,
-                                       width() - 2 * kCaptionInset,
-                                       kCaptionLines * fontMetrics().lineSpacing());
+                                       width() - 2 * kCaptionInset, CaptionHeight(fontMetrics()));
     }
     if (!Check2->isHidden())
         Hover(hovered_);

@@ -39,7 +39,7 @@ void ReadTables(const QString& path) {
         file->GetConfiguration(i);
         file->GetConfigurationType(i);
         if (const auto properties = file->GetCustomProperties(i))
-            properties->GetStamp();
+            properties->GetStamp(docbench::PropertyGroup::Custom);
     }
     for (int i = 0; i < file->GetHyperlinkCount(); ++i)
         file->GetHyperlink(i);

@@ -66,7 +66,10 @@ void CellListView::keyPressEvent(QKeyEvent* event) {
         Q_EMIT Activated(SelectedRow());
         return;
     }
+    const int former = currentIndex().row();
     QTreeView::keyPressEvent(event);
+    if (SelectedRow() >= 0 && SelectedRow() != former)
+        Q_EMIT PickedByKey(SelectedRow());
 }
 
 void CellListView::mouseReleaseEvent(QMouseEvent* event) {

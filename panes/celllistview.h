@@ -26,6 +26,7 @@ Q_SIGNALS:
     void MenuRequested(QPoint globalPosition);  // right button released, or the menu key
     void Activated(int row);                    // double click or Enter
     void RowClicked(int row);                   // by the user
+    void PickedByKey(int row);                  // another row became the current one
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -3,8 +3,8 @@
 namespace docbench {
 
 void FolderWalk::Run(const QString& folder) const {
-    if (yields == WalkYields::AtSubfolders && stopped())
-        return;
+    if (stopped())
+        return;  // whoever is told what the walk enters may be gone
     if (entering)
         entering(folder);
     if (yields == WalkYields::AtFolders) {

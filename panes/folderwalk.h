@@ -16,7 +16,7 @@ enum class WalkYields {
 struct FolderWalk {
     WalkYields yields = WalkYields::AtSubfolders;
     std::function<void()> yield;
-    std::function<bool()> stopped;  // asked after each yield
+    std::function<bool()> stopped;  // asked before each folder and after each yield
     std::function<void(const QString& folder)>
         entering;  // before a yield on entering; may be empty
     // Searches one folder; gives the subfolders that the walk goes into, in order.

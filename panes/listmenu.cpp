@@ -22,7 +22,8 @@ ListMenu::ListMenu(const char* name, CellListView* list, std::function<void()> o
 
 void ListMenu::PopUp(QPoint globalPosition) {
     const bool rows = list_->List().Count() > 0;
-    mnopen->setEnabled(rows && (opens_ == Opens::AnyRow || list_->SelectedRow() >= 0));
+    const int selected = list_->SelectedRow();
+    mnopen->setEnabled(rows && (opens_ == Opens::AnyRow || (selected >= 0 && canOpen_(selected))));
     mnexport->setEnabled(rows);
     popup(globalPosition);
 }

@@ -22,6 +22,8 @@ public:
     // How mnopen is enabled in a list with rows: always, or only with a selected row.
     enum class Opens { AnyRow, SelectedRow };
     void SetOpens(Opens opens) { opens_ = opens; }
+    // With SelectedRow: which rows can be opened; by default all.
+    void SetCanOpen(std::function<bool(int row)> canOpen) { canOpen_ = std::move(canOpen); }
 
 private:
     void PopUp(QPoint globalPosition);
@@ -30,6 +32,7 @@ private:
     QAction* mnopen;
     QAction* mnexport;
     Opens opens_ = Opens::AnyRow;
+    std::function<bool(int)> canOpen_ = [](int) { return true; };
 };
 
 // Opens a document in the CAD application, by the verb "Open".

@@ -1,6 +1,5 @@
 #include "panes/pathcolumn.h"
 
-#include "cells/celllist.h"
 #include "services/paths.h"
 
 namespace docbench {
@@ -11,9 +10,12 @@ const QString kLong = QStringLiteral("L");
 
 }  // namespace
 
+CellHeader PathColumn::Header(bool isLong) const {
+    return {.text = isLong ? longCaption : shortCaption, .tag = isLong ? kLong : kShort};
+}
+
 void SetLongForm(CellList& list, const PathColumn& column, bool isLong) {
-    list.SetHeader(column.column, {.text = isLong ? column.longCaption : column.shortCaption,
-                                   .tag = isLong ? kLong : kShort});
+    list.SetHeader(column.column, column.Header(isLong));
     list.ChangeAll([&](CellRow& row) {
         if (column.column >= int(row.cells.size()))
             return;

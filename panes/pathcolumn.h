@@ -3,10 +3,9 @@
 
 #include <QString>
 
-namespace docbench {
+#include "cells/celllist.h"
 
-class CellList;
-struct CellRow;
+namespace docbench {
 
 // The header's tag says which form is shown: "S" file names, "L" whole paths. The path itself is
 // the row's tag in the first column, and the cell's tag in any other.
@@ -14,6 +13,8 @@ struct PathColumn {
     int column;  // from 0
     QString shortCaption;
     QString longCaption;
+
+    CellHeader Header(bool isLong) const;
 };
 
 // Puts the column into one of its forms: the header, and every row that is there.

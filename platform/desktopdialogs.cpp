@@ -7,6 +7,7 @@
 
 #include "platform/filefilter.h"
 #include "platform/passworddialog.h"
+#include "services/texts.h"
 
 namespace docbench {
 namespace {
@@ -89,6 +90,18 @@ private:
     std::optional<QCursor> former_;
 };
 
+// The toolkit names its buttons in the desktop's language, which need not be that of the texts.
+void NameButtons(QMessageBox& box) {
+    const std::pair<QMessageBox::StandardButton, TextId<0>> names[] = {
+        {QMessageBox::Ok, Text::Ok},
+        {QMessageBox::Cancel, Text::Cancel},
+        {QMessageBox::Yes, Text::Yes},
+        {QMessageBox::No, Text::No}};
+    for (const auto& [button, text] : names)
+        if (QAbstractButton* shown = box.button(button); shown && !Tr(text).isEmpty())
+            shown->setText(Tr(text));
+}
+
 }  // namespace
 
 Dialogs::Answer DesktopDialogs::Box(const QString& text, Icon icon, const QString& title,
@@ -97,6 +110,7 @@ Dialogs::Answer DesktopDialogs::Box(const QString& text, Icon icon, const QStrin
     QMessageBox box(IconOf(icon), title, text, ButtonsOf(buttons), Owner());
     box.setTextFormat(Qt::PlainText);  // a file name is no markup
     box.setDetailedText(detail);
+    NameButtons(box);
     if (buttons == Buttons::YesNo)
         box.setEscapeButton(QMessageBox::No);
     return AnswerOf(box.exec());

@@ -5,6 +5,7 @@
 #include "platform/desktopshellexecute.h"
 #include "platform/helpwindow.h"
 #include "platform/secretkeyring.h"
+#include "platform/windowtexts.h"
 #include "platform/xlsxspreadsheet.h"
 #include "services/documentlibrary.h"
 
@@ -18,6 +19,7 @@ struct DesktopSeams::Parts {
     DesktopOutsideObjects outside;
     DesktopShellExecute shell;
     XlsxSpreadsheet spreadsheet;
+    WindowTexts texts;
 };
 
 DesktopSeams::DesktopSeams() : parts_(std::make_unique<Parts>()), former_(gSeams) {
@@ -28,6 +30,7 @@ DesktopSeams::DesktopSeams() : parts_(std::make_unique<Parts>()), former_(gSeams
               .outside = &parts_->outside,
               .shell = &parts_->shell,
               .spreadsheet = &parts_->spreadsheet};
+    parts_->texts.Load(QCoreApplication::applicationDirPath());
 }
 
 DesktopSeams::~DesktopSeams() {

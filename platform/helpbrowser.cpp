@@ -28,11 +28,11 @@ HelpBrowser::HelpBrowser()
     MakeTools(*tools);
     tools->addWidget(search_, 1);
     search_->setObjectName(QStringLiteral("search"));
-    search_->setPlaceholderText(QStringLiteral("Search (Ctrl+F)"));
-    search_->setAccessibleName(QStringLiteral("Search"));
+    search_->setPlaceholderText(tr("Search (Ctrl+F)"));
+    search_->setAccessibleName(tr("Search"));
     search_->setClearButtonEnabled(true);
     list_->setObjectName(QStringLiteral("contents"));
-    list_->setAccessibleName(QStringLiteral("Contents"));
+    list_->setAccessibleName(tr("Contents"));
     list_->setHeaderHidden(true);
     list_->header()->setStretchLastSection(true);
     page_->setObjectName(QStringLiteral("page"));
@@ -63,17 +63,18 @@ HelpBrowser::HelpBrowser()
 void HelpBrowser::MakeTools(QLayout& tools) {
     struct Tool {
         const char* name;
-        const char* text;
+        QString text;
         QStyle::StandardPixmap picture;
         void (QTextBrowser::*act)();
     };
-    const Tool all[] = {{"back", "Back", QStyle::SP_ArrowBack, &QTextBrowser::backward},
-                        {"forward", "Forward", QStyle::SP_ArrowForward, &QTextBrowser::forward}};
+    const Tool all[] = {
+        {"back", tr("Back"), QStyle::SP_ArrowBack, &QTextBrowser::backward},
+        {"forward", tr("Forward"), QStyle::SP_ArrowForward, &QTextBrowser::forward}};
     for (const Tool& tool : all) {
         auto* button = new QToolButton;
         button->setObjectName(QLatin1String(tool.name));
-        button->setToolTip(QLatin1String(tool.text));
-        button->setAccessibleName(QLatin1String(tool.text));
+        button->setToolTip(tool.text);
+        button->setAccessibleName(tool.text);
         button->setIcon(style()->standardIcon(tool.picture));
         button->setEnabled(false);
         connect(button, &QToolButton::clicked, page_, tool.act);
@@ -85,8 +86,8 @@ void HelpBrowser::MakeTools(QLayout& tools) {
     }
     auto* home = new QToolButton;
     home->setObjectName(QStringLiteral("home"));
-    home->setToolTip(QStringLiteral("Contents"));
-    home->setAccessibleName(QStringLiteral("Contents"));
+    home->setToolTip(tr("Contents"));
+    home->setAccessibleName(tr("Contents"));
     home->setIcon(style()->standardIcon(QStyle::SP_DirHomeIcon));
     connect(home, &QToolButton::clicked, this, [this] { ShowPage(pages_.Contents()); });
     tools.addWidget(home);
@@ -111,8 +112,10 @@ void HelpBrowser::SetPages(HelpPages pages) {
     ListFound(search_->text());
 }
 
-void HelpBrowser::ShowPage(const QString& file) {
-    const QUrl url = QUrl::fromLocalFile(file);
+void HelpBrowser::ShowPage(const QString& file, const QString& section) {
+    QUrl url = QUrl::fromLocalFile(file);
+    if (!section.isEmpty())
+        url.setFragment(section);
     if (url != page_->source())
         page_->setSource(url, QTextDocument::HtmlResource);
 }
@@ -154,7 +157,8 @@ void HelpBrowser::Follow(const QUrl& page) {
     const QSignalBlocker quiet(list_);
     QTreeWidgetItem* fitting = nullptr;
     for (QTreeWidgetItemIterator item(list_); *item; ++item) {
-        if (QUrl::fromLocalFile((*item)->data(0, kFileRole).toString()) == page)
+        if (QUrl::fromLocalFile((*item)->data(0, kFileRole).toString()) ==
+            page.adjusted(QUrl::RemoveFragment))
             fitting = *item;
     }
     list_->setCurrentItem(fitting);  // a page that is not listed leaves no other entry marked

@@ -18,7 +18,7 @@ public:
     HelpBrowser();
 
     void SetPages(HelpPages pages);
-    void ShowPage(const QString& file);
+    void ShowPage(const QString& file, const QString& section = {});
 
 private:
     void MakeTools(class QLayout& tools);

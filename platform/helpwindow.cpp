@@ -21,10 +21,10 @@ bool IsCompiled(const QString& helpFile) {
 }
 
 void ReportMissing(const QString& helpFile) {
-    gSeams.dialogs->Box(QStringLiteral("The help file %1 can't be found. Please check the "
-                                       "installation.")
-                            .arg(helpFile),
-                        Dialogs::Icon::Exclamation, gAppTitle);
+    gSeams.dialogs->Box(
+        HelpBrowser::tr("The help file %1 can't be found. Please check the installation.")
+            .arg(helpFile),
+        Dialogs::Icon::Exclamation, gAppTitle);
 }
 
 }  // namespace
@@ -44,12 +44,12 @@ void HelpWindow::Open(const QString& helpFile, const QString& topic) {
     if (!Has(helpFile))
         return ReportMissing(helpFile);
     HelpPages pages(FolderOfPages(helpFile));
-    const QString page =
-        IsCompiled(helpFile) ? pages.PageOf(topic) : QFileInfo(helpFile).absoluteFilePath();
+    const QString page = IsCompiled(helpFile) ? pages.PageOf(topic.section(u'#', 0, 0))
+                                              : QFileInfo(helpFile).absoluteFilePath();
     if (!window_)
         window_ = new HelpBrowser;
     window_->SetPages(std::move(pages));
-    window_->ShowPage(page);
+    window_->ShowPage(page, topic.section(u'#', 1));
     window_->show();
     window_->raise();
     window_->activateWindow();

@@ -16,7 +16,7 @@ PasswordDialog::PasswordDialog(const QString& server, const QString& realm, bool
     : QDialog(parent),
       user_(new QLineEdit(this)),
       password_(new QLineEdit(this)),
-      remember_(new QCheckBox(QStringLiteral("&Keep in the keyring"), this)) {
+      remember_(new QCheckBox(tr("&Keep in the keyring"), this)) {
     setObjectName(QStringLiteral("PasswordDialog"));
     setWindowTitle(gAppTitle);
     user_->setObjectName(QStringLiteral("user"));
@@ -27,17 +27,17 @@ PasswordDialog::PasswordDialog(const QString& server, const QString& realm, bool
     auto* question = new QLabel(this);
     question->setTextFormat(Qt::PlainText);
     question->setWordWrap(true);
-    question->setText((refused ? QStringLiteral("%1 did not accept the user and password for "
-                                                "\"%2\". Please try again.")
-                               : QStringLiteral("%1 wants a user and a password for \"%2\"."))
+    question->setText((refused ? tr("%1 did not accept the user and password for \"%2\". Please "
+                                    "try again.")
+                               : tr("%1 wants a user and a password for \"%2\"."))
                           .arg(server, realm));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* layout = new QFormLayout(this);
     layout->addRow(question);
-    layout->addRow(QStringLiteral("&User:"), user_);
-    layout->addRow(QStringLiteral("&Password:"), password_);
+    layout->addRow(tr("&User:"), user_);
+    layout->addRow(tr("&Password:"), password_);
     layout->addRow(QString(), remember_);
     layout->addRow(buttons);
     setMinimumWidth(380);

@@ -17,6 +17,7 @@
 #include "services/paths.h"
 #include "services/settingsstore.h"
 #include "services/texts.h"
+#include "services/webauthority.h"
 #include "services/webcopies.h"
 #include "shell/pathcombo.h"
 #include "shell/picturestore.h"
@@ -60,14 +61,12 @@ QString ParentOf(const QString& folder) {
 // looks wrong may hold a password.
 QString ReasonAgainst(const QString& address) {
     const QUrl url(address);
-    if (url.userInfo().contains(u':'))
-        return QStringLiteral(
-            "Type the address without the password; you will be asked for it. Addresses are "
-            "remembered and listed, and a password is not for that.");
+    if (HasPassword(address))
+        return PasswordInAddressText();
     const bool web =
         url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http");
     if (!url.isValid() || !web || url.host().isEmpty())
-        return QStringLiteral(
+        return URLFileOpen::tr(
             "This is no address of a web folder. Type one that begins with https:// or http://, "
             "such as https://server/folder/.");
     return {};
@@ -119,17 +118,17 @@ URLFileOpen::URLFileOpen(QWidget* parent)
 
 void URLFileOpen::MakeLayout() {
     address_->setObjectName(QStringLiteral("address"));
-    address_->setAccessibleName(QStringLiteral("Address"));
+    address_->setAccessibleName(tr("Address"));
     address_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     up_->setObjectName(QStringLiteral("up"));
     up_->setIcon(PictureOf(QStringLiteral("up")));
-    up_->setToolTip(QStringLiteral("Folder above (Alt+Up)"));
-    up_->setAccessibleName(QStringLiteral("Folder above"));
+    up_->setToolTip(tr("Folder above (Alt+Up)"));
+    up_->setAccessibleName(tr("Folder above"));
     up_->setEnabled(false);
     entries_->setObjectName(QStringLiteral("entries"));
-    entries_->setAccessibleName(QStringLiteral("Folder"));
+    entries_->setAccessibleName(tr("Folder"));
     types_->setObjectName(QStringLiteral("types"));
-    types_->setAccessibleName(QStringLiteral("File types"));
+    types_->setAccessibleName(tr("File types"));
     open_->setObjectName(QStringLiteral("open"));
     open_->setText(Tr(Text::MenuOpen));
     open_->setEnabled(false);
@@ -186,8 +185,8 @@ void URLFileOpen::ShowFolder(const QString& url) {
     std::unique_ptr<WebFolderListing> listing = gWebFolder ? gWebFolder->ListFolder(url) : nullptr;
     if (!listing || !listing->Reset())
         return ShowError(gWebFolder ? gWebFolder->LastError()
-                                    : QStringLiteral("Web folders can't be reached: the document "
-                                                     "library is not loaded."));
+                                    : tr("Web folders can't be reached: the document library is "
+                                         "not loaded."));
     folder_ = url;
     folders_.clear();
     files_.clear();

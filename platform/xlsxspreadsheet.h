@@ -2,6 +2,7 @@
 #pragma once
 
 #include "services/spreadsheet.h"
+#include "shell/export.h"
 
 namespace docbench {
 
@@ -12,8 +13,8 @@ public:
 };
 
 // Writes a table as texts; raises DocumentError, and leaves no half file, when it can't be written.
-void WriteXlsx(const TextTable& table, const QString& path);
+DOCBENCH_EXPORT void WriteXlsx(const TextTable& table, const QString& path);
 // The same as comma separated values (RFC 4180, UTF-8).
-void WriteCsv(const TextTable& table, const QString& path);
+DOCBENCH_EXPORT void WriteCsv(const TextTable& table, const QString& path);
 
 }  // namespace docbench

@@ -1,8 +1,7 @@
 #include "rename/renamelist.h"
 
-#include <QFileInfo>
-
 #include "services/docaccess.h"
+#include "services/filesystem.h"
 #include "services/language.h"
 #include "services/paths.h"
 #include "services/texts.h"
@@ -30,30 +29,27 @@ void PrepareRenameList(CellList& list) {
     SetLongForm(list, RenameHolderColumn(), false);
 }
 
-bool IsReadOnlyFile(const QString& path) {
-    const QFileInfo file(path);
-    // Asked by mode: who may do anything is told of write protection all the same.
-    return file.exists() &&
-           !(file.permissions() & (QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther));
-}
-
-void AddHolder(CellList& list, const FoundReference& found, const QString& holder,
-               const QString& relation, const QString& local, const QString& parent) {
+CellRow HolderRow(const FoundReference& found, const QString& holder, const QString& relation,
+                  const QString& local, const QString& parent) {
     CellRow row{.cells = {{},
-                          {.text = FileNameOf(holder), .tag = holder, .toolTip = holder},
+                          {.text = {}, .tag = holder, .toolTip = holder},
                           {.text = relation},
                           {.text = QString::number(found.referenceIndex)},
                           {.text = found.inContext ? QStringLiteral("1") : QStringLiteral("0"),
                            .tag = QString::fromLatin1(found.stamp.toHex())}},
                 .ticked = true};
-    if (holder.compare(parent, Qt::CaseInsensitive) == 0)
-        row.cells[kRelationColumn].tag = QStringLiteral("M");
-    ShowHolder(list, row);
     if (IsReadOnlyFile(local)) {
         row.ticked = false;
-        MarkReadOnly(list, row);
+        row.cells[kRelationColumn].tag = QStringLiteral("R");
+        row.cells[kHolderColumn].foreColor = kColorRed;
+    } else if (holder.compare(parent, Qt::CaseInsensitive) == 0) {
+        row.cells[kRelationColumn].tag = QStringLiteral("M");
     }
-    list.Append(std::move(row));
+    return row;
+}
+
+RowBatch RenameRows(CellList& list) {
+    return RowBatch(list, [&list](CellRow& row) { ShowHolder(list, row); });
 }
 
 void ShowHolder(const CellList& list, CellRow& row) {

@@ -6,6 +6,7 @@
 
 #include "cells/celllist.h"
 #include "panes/pathcolumn.h"
+#include "panes/rowbatch.h"
 #include "services/listtable.h"
 
 namespace docbench {
@@ -34,13 +35,13 @@ RenameRow ReadRow(const CellRow& row);
 void PrepareRenameList(CellList& list);
 PathColumn RenameHolderColumn();
 
-// A file on the disk without the right to be written.
-bool IsReadOnlyFile(const QString& path);
+// The row of a reference, without its text: RenameRows shows it. `holder` is where the document
+// really is, `local` its file; `parent` is the document whose row must stay ticked.
+CellRow HolderRow(const FoundReference& found, const QString& holder, const QString& relation,
+                  const QString& local, const QString& parent);
 
-// Adds the row of a reference. `holder` is where the document really is, `local` its file; `parent`
-// is the document whose row must stay ticked.
-void AddHolder(CellList& list, const FoundReference& found, const QString& holder,
-               const QString& relation, const QString& local, const QString& parent);
+// What a search gives its rows to, on their way into the list.
+RowBatch RenameRows(CellList& list);
 
 // Shows a holder in the form of its column, with the mark of a read-only one.
 void ShowHolder(const CellList& list, CellRow& row);

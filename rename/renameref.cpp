@@ -15,6 +15,7 @@
 #include "services/documentlibrary.h"
 #include "services/errorstate.h"
 #include "services/exporttable.h"
+#include "services/filesystem.h"
 #include "services/language.h"
 #include "services/paths.h"
 #include "services/seams.h"
@@ -124,15 +125,24 @@ void renameRef::SetPartName(const QString& displayName, const QString& fullName,
     ui_->lblProgress->clear();
     ShowMode();
     whereUsedDone = isReplace;
-    if (subject_.fullName.isEmpty()) {
-        EnableCommands(false);
-        ui_->oldname->clear();
-        ui_->newname->clear();
-        return;
-    }
+    if (subject_.fullName.isEmpty())
+        return Blank();
     ErrorState errors;
-    if (!errors.Run([this] { Load(); }))
-        Warn(Format(Text::RenameLoadFailed, fullName, errors.Description()));
+    if (errors.Run([this] { Load(); }))
+        return;
+    // The fields stay as they are, but what they show is not what would be renamed.
+    subject_.fullName.clear();
+    EnableCommands(false);
+    ui_->newname->setEnabled(false);
+    Warn(Format(Text::RenameLoadFailed, fullName, errors.Description()));
+}
+
+void renameRef::Blank() {
+    subject_.fullName.clear();
+    ui_->oldname->clear();
+    ui_->newname->clear();
+    ui_->newname->setEnabled(false);
+    EnableCommands(false);
 }
 
 void renameRef::ShowMode() {
@@ -149,8 +159,7 @@ void renameRef::Load() {
                          (!replaceMode && !MayBeWritten(subject_.fullName));
     if (refused) {
         ui_->whereused->hide();
-        EnableCommands(false);
-        return;
+        return Blank();
     }
     FillForm();
     if (replaceMode && parentDocument.isEmpty() && !IsWebPath(subject_.fullName))
@@ -189,7 +198,16 @@ void renameRef::OnNewNameChanged() {
     if (ui_->newname->text().isEmpty())
         ui_->apply->setEnabled(false);
     else if (!ui_->oldname->text().isEmpty())
-        ui_->apply->setEnabled(true);
+        EnableApply();
+}
+
+// The name may be typed while a search runs; it can be applied once that has ended.
+void renameRef::EnableApply() {
+    ui_->apply->setEnabled(!IsSearching() && !subject_.fullName.isEmpty());
+}
+
+bool renameRef::IsSearching() const {
+    return ui_->Findnow->text() == Tr(Text::Stop);
 }
 
 QString renameRef::Target() const {
@@ -229,7 +247,7 @@ void renameRef::CheckEntered() {
         ValidateTarget(subject_, Target(), [this](const QString& text) { SetStatusText(text); });
     checking_ = false;
     if (ok)
-        ui_->apply->setEnabled(true);
+        EnableApply();
     else
         RefuseTarget();
 }
@@ -248,7 +266,7 @@ void renameRef::CheckDropped(const QString& path) {
     if (!ok)
         return RefuseTarget();
     ui_->newname->setText(path);
-    ui_->apply->setEnabled(true);
+    EnableApply();
 }
 
 void renameRef::Browse() {
@@ -276,7 +294,7 @@ void renameRef::Browse() {
 
 // The button is its own stop.
 void renameRef::FindOrStop() {
-    if (ui_->Findnow->text() == Tr(Text::Stop))
+    if (IsSearching())
         cancelSearch = true;
     else
         Search();
@@ -292,29 +310,30 @@ void renameRef::Search() {
     const QPointer<renameRef> alive(this);
     const int load = loads_;
     const auto gone = [alive, load] { return !alive || alive->loads_ != load; };
-    const RenameSearch search{.document = subject_.fullName,
-                              .parent = parentDocument,
-                              .kinds = {.references = scope_.references,
-                                        .inContext = scope_.inContext,
-                                        .mirrored = scope_.mirrored},
-                              .subfolders = scope_.subfolders,
-                              .status = [this](const QString& text) { SetStatusText(text); },
-                              .yield = [] { QCoreApplication::processEvents(); },
-                              .cancelled = [alive, gone] { return gone() || alive->cancelSearch; },
-                              .progress =
-                                  [this](const SearchCounts& counts) {
-                                      ShowSearchProgress(*ui_->lblProgress, counts,
-                                                         ui_->lv->List().Count());
-                                  }};
+    const RenameSearch search{
+        .document = subject_.fullName,
+        .parent = parentDocument,
+        .kinds = {.references = scope_.references,
+                  .inContext = scope_.inContext,
+                  .mirrored = scope_.mirrored},
+        .subfolders = scope_.subfolders,
+        .status = [this](const QString& text) { SetStatusText(text); },
+        .yield = [] { QCoreApplication::processEvents(); },
+        .cancelled = [alive, gone] { return gone() || alive->cancelSearch; },
+        .progress = [this](const SearchCounts& counts,
+                           int rows) { ShowSearchProgress(*ui_->lblProgress, counts, rows); }};
     ErrorState errors;
-    errors.Run([&] { SearchHolders(search, searchFolders, list); });
+    RowBatch rows = RenameRows(list);
+    bool searched = false;
+    errors.Assign(searched, [&] { return SearchHolders(search, searchFolders, rows); });
     if (gone())
         return;
+    rows.Flush();
     if (errors.Failed())
         Warn(Format(Text::SearchError, errors.Description()));
     SetStatusText(Format(Text::HoldersFound, QString::number(list.Count())));
     ui_->lv->FitColumns();
-    whereUsedDone = true;
+    whereUsedDone = searched || whereUsedDone;
     EnableCommands(true);
     if (ui_->newname->text().isEmpty())
         ui_->apply->setEnabled(false);

@@ -45,9 +45,12 @@ private:
     void ShowMode();
     void Load();
     void FillForm();
+    void Blank();
     void EnableCommands(bool enabled);
     void EnableInput(bool enabled);
     void OnNewNameChanged();
+    void EnableApply();
+    bool IsSearching() const;
     QString Target() const;
     void AddExtension();
     void RefuseTarget();

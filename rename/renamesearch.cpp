@@ -1,109 +1,39 @@
 #include "rename/renamesearch.h"
 
-#include <QFileInfo>
 #include <QSet>
 
-#include "cells/celllist.h"
-#include "panes/folderwalk.h"
+#include "panes/holdersearch.h"
 #include "rename/renamelist.h"
-#include "services/documentlibrary.h"
-#include "services/folderlists.h"
 #include "services/language.h"
-#include "services/paths.h"
-#include "services/relationlabel.h"
-#include "services/texts.h"
-#include "services/webcopies.h"
-#include "services/webdocument.h"
 
 namespace docbench {
-namespace {
 
-class HolderSearch {
-public:
-    HolderSearch(const RenameSearch& search, CellList& list)
-        : search_(search), list_(list), finder_(Documents().MakeFolderSearcher()) {}
-
-    void SearchFolders(const QString& folder, bool deep);
-
-private:
-    void SearchFolder(const QString& folder);
-    void Take(const FoundReference& found);
-
-    const RenameSearch& search_;
-    CellList& list_;
-    std::unique_ptr<FolderSearcher> finder_;
-    QSet<QString> listed_;  // holders with their relations
-};
-
-void HolderSearch::SearchFolders(const QString& folder, bool deep) {
-    const FolderWalk walk{.yields = WalkYields::AtFolders,
-                          .yield = search_.yield,
-                          .stopped = search_.cancelled,
-                          .entering =
-                              [this](const QString& entered) {
-                                  search_.status(Format(Text::SearchingHolders, entered));
-                              },
-                          .visit =
-                              [&](const QString& visited) {
-                                  SearchFolder(visited);
-                                  QStringList below;
-                                  for (int i = 0; deep && i < finder_->GetSubfolderCount(); ++i)
-                                      below.append(finder_->GetSubfolder(i));
-                                  finder_->ClearResults();
-                                  return below;
-                              }};
-    walk.Run(folder);
-}
-
-void HolderSearch::SearchFolder(const QString& folder) {
-    finder_->ClearResults();
-    finder_->FindReferences({.pattern = folder + QStringLiteral("/*.*"),
-                             .fullPathFlag = 0,
-                             .baseName = BaseNameOf(search_.document),
-                             .extension = ExtensionOf(search_.document),
-                             .fullPath = QString(),
-                             .mask = search_.kinds.Mask()});
-    const int count = finder_->GetResultCount();
-    for (int i = 0; i < count; ++i)
-        Take(finder_->GetResult(i));
-    search_.progress(finder_->GetSearchCounts());
-}
-
-void HolderSearch::Take(const FoundReference& found) {
-    QString holder = found.document;
-    if (gWebDocument)
-        FindUrlOfCopy(found.document, holder);
-    // A component is a plain reference whatever the types.
-    const QString label = RelationLabel(holder, search_.document);
-    if (search_.kinds.Drops(label))
-        return;
-    const QString shown = found.inContext ? label : gRelationDefault;
-    const QString key = holder + u'\0' + shown;
-    if (listed_.contains(key))
-        return;
-    listed_.insert(key);
-    AddHolder(list_, found, holder, shown, found.document, search_.parent);
-}
-
-}  // namespace
-
-bool SearchHolders(const RenameSearch& search, const QString& folders, CellList& list) {
-    const QString expanded = ExpandFolderList(folders);
-    QStringList entries = expanded.split(u';', Qt::SkipEmptyParts);
-    if (entries.isEmpty())
-        return false;
-    entries = RemoveDuplicates(entries);
-    HolderSearch holders(search, list);
-    for (const QString& entry : entries) {
-        QString mirror;
-        if (!IsWebPath(expanded)) {
-            if (QFileInfo(entry).isDir())
-                holders.SearchFolders(FolderNoSeparator(entry + u'/'), search.subfolders);
-        } else if (MirrorWebFolder(expanded, mirror)) {
-            holders.SearchFolders(FolderNoSeparator(mirror), false);
-        }
-    }
-    return true;
+bool SearchHolders(const RenameSearch& search, const QString& folders, RowBatch& rows) {
+    QSet<QString> listed;  // holders with their relations
+    const HolderSearch shared{
+        .document = search.document,
+        .kinds = search.kinds,
+        .subfolders = search.subfolders,
+        .status = search.status,
+        .yield = search.yield,
+        .cancelled = search.cancelled,
+        .progress =
+            [&](const SearchCounts& counts) {
+                rows.Offer();
+                search.progress(counts, rows.Count());
+            },
+        .mirrors = HolderSearch::Mirrors::WholeText,
+        .take =
+            [&](const FoundReference& found, const QString& holder, const QString& relation) {
+                // A component is a plain reference whatever the types.
+                const QString shown = found.inContext ? relation : gRelationDefault;
+                const QString key = holder + u'\0' + shown;
+                if (listed.contains(key))
+                    return;
+                listed.insert(key);
+                rows.Add(HolderRow(found, holder, shown, found.document, search.parent));
+            }};
+    return shared.Run(folders);
 }
 
 }  // namespace docbench

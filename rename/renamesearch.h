@@ -9,7 +9,7 @@
 
 namespace docbench {
 
-class CellList;
+class RowBatch;
 
 struct RenameSearch {
     QString document;  // path or address
@@ -19,11 +19,11 @@ struct RenameSearch {
     std::function<void(const QString& text)> status;
     std::function<void()> yield;      // once for each folder
     std::function<bool()> cancelled;  // asked after each yield
-    std::function<void(const SearchCounts& counts)> progress;
+    std::function<void(const SearchCounts& counts, int rows)> progress;
 };
 
-// Adds a row to `list` for each reference found in the folders (";" between them, named lists
+// Adds a row to `rows` for each reference found in the folders (";" between them, named lists
 // expanded). False when there is nothing to look in. Raises what a folder's search raises.
-bool SearchHolders(const RenameSearch& search, const QString& folders, CellList& list);
+bool SearchHolders(const RenameSearch& search, const QString& folders, RowBatch& rows);
 
 }  // namespace docbench

@@ -22,6 +22,22 @@ Table TableOf(bool external) {
     return external ? Table::ExternalReferences : Table::Components;
 }
 
+// Opens the parent and finds its first reference to the document.
+std::optional<ParentReference> OpenParent(DocumentFile& parent, const RenamePlan& plan) {
+    const QString webFolder = IsWebPath(plan.parent) ? UrlFolder(plan.parent) : QString();
+    const QString oldName = BaseNameOf(plan.oldPath).toUpper();
+    parent.Open(LocalCopyOf(plan.parent));
+    for (int i = 0; i < parent.GetComponentCount(); ++i) {
+        if (parent.GetComponent(i, webFolder).name.toUpper() == oldName)
+            return ParentReference{Table::Components, i};
+    }
+    for (int i = 0; i < parent.GetExternalReferenceCount(); ++i) {
+        if (parent.GetExternalReference(i, webFolder).name.toUpper() == oldName)
+            return ParentReference{Table::ExternalReferences, i};
+    }
+    return std::nullopt;
+}
+
 class Transaction {
 public:
     Transaction(CellList& rows, const RenamePlan& plan, const RenameProgress& progress)
@@ -70,51 +86,28 @@ private:
         return count;
     }
 
-    // The parent's first reference to the document, found by its name. A failure is not told: the
-    // row of the same parent, if there is one, tells its own.
+    // A failure is not told: the row of the same parent, if there is one, tells its own.
     void UpdateParent() {
         progress_.status(Format(Text::UpdatingDocument, plan_.parent));
-        const QString webFolder = IsWebPath(plan_.parent) ? UrlFolder(plan_.parent) : QString();
         ErrorState errors;
         errors.Run([&] {
-            document_->Open(LocalCopyOf(plan_.parent));
-            std::optional<Table> table;
-            if (SetFirstComponent(webFolder))
-                table = Table::Components;
-            else if (SetFirstExternal(webFolder))
-                table = Table::ExternalReferences;
-            if (!table)
+            const auto found = OpenParent(*document_, plan_);
+            if (!found)
                 return;
             ++result_.updated;
-            const QByteArray before = document_->GetStamp(*table);
+            const QByteArray before = document_->GetStamp(found->table);
+            SetReference(found->table, found->index);
             document_->Save();
-            RenewStamps(plan_.parent, *table, before);
+            RenewStamps(plan_.parent, found->table, before);
             UploadIfWeb(plan_.parent);
         });
     }
 
-    bool IsOldName(const QString& name) const {
-        return name.toUpper() == BaseNameOf(plan_.oldPath).toUpper();
-    }
-
-    bool SetFirstComponent(const QString& webFolder) {
-        for (int i = 0; i < document_->GetComponentCount(); ++i) {
-            if (!IsOldName(document_->GetComponent(i, webFolder).name))
-                continue;
-            document_->SetComponentPath(i, plan_.newPath);
-            return true;
-        }
-        return false;
-    }
-
-    bool SetFirstExternal(const QString& webFolder) {
-        for (int i = 0; i < document_->GetExternalReferenceCount(); ++i) {
-            if (!IsOldName(document_->GetExternalReference(i, webFolder).name))
-                continue;
-            document_->SetExternalReferencePath(i, plan_.newPath);
-            return true;
-        }
-        return false;
+    void SetReference(Table table, int index) {
+        if (table == Table::Components)
+            document_->SetComponentPath(index, plan_.newPath);
+        else
+            document_->SetExternalReferencePath(index, plan_.newPath);
     }
 
     void UpdateRow(int index) {
@@ -139,10 +132,7 @@ private:
     }
 
     void Write(const RenameRow& row) {
-        if (row.external)
-            document_->SetExternalReferencePath(row.index, plan_.newPath);
-        else
-            document_->SetComponentPath(row.index, plan_.newPath);
+        SetReference(TableOf(row.external), row.index);
         document_->Save();
         RenewStamps(row.holder, TableOf(row.external), row.stamp);
         UploadIfWeb(row.holder);
@@ -187,6 +177,10 @@ private:
 };
 
 }  // namespace
+
+std::optional<ParentReference> FindParentReference(const RenamePlan& plan) {
+    return OpenParent(*Documents().MakeDocumentFile(), plan);
+}
 
 RenameResult RunRename(CellList& rows, const RenamePlan& plan, const RenameProgress& progress) {
     return Transaction(rows, plan, progress).Run();

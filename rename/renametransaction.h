@@ -4,6 +4,9 @@
 
 #include <QString>
 #include <functional>
+#include <optional>
+
+#include "services/docaccess.h"
 
 namespace docbench {
 
@@ -15,6 +18,14 @@ struct RenamePlan {
     QString parent;         // the document above the place in the tree; empty for a root
     bool replaces = false;  // no file moves
 };
+
+// The parent's first reference to the document, found by its name: the components first. None when
+// it has none. Raises what opening and reading raise.
+struct ParentReference {
+    Table table;
+    int index;
+};
+std::optional<ParentReference> FindParentReference(const RenamePlan& plan);
 
 struct RenameResult {
     bool moved = true;  // false: nothing has changed

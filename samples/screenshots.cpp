@@ -6,20 +6,28 @@
 #include <QComboBox>
 #include <QDirIterator>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabWidget>
 #include <QTextStream>
 #include <functional>
 
+#include "app/consoledialogs.h"
 #include "app/theme.h"
+#include "copy/editdialog.h"
+#include "editors/edittree.h"
 #include "frame/frmabout.h"
 #include "frame/maincontrol.h"
 #include "platform/desktopseams.h"
+#include "rename/renameref.h"
 #include "search/searchrules.h"
+#include "services/folderlists.h"
 #include "services/helpviewer.h"
 #include "services/language.h"
 #include "services/seams.h"
 #include "services/texts.h"
+#include "setup/folderlisteditor.h"
 #include "shell/previewpane.h"
 #include "shell/usercontrol1.h"
 #include "whereused/whereused.h"
@@ -27,6 +35,9 @@
 namespace {
 
 using namespace docbench;
+
+// A part with configurations and hyperlinks.
+const QString kScrew = QStringLiteral("fasteners/hex screw M6.tfmprt");
 
 // What a scene works with: the frame on screen with the main assembly open, and the library.
 struct Stage {
@@ -88,6 +99,90 @@ QWidget* SearchByProperties(Stage& stage) {
     return &stage.frame;
 }
 
+// After a search for the holders of a part.
+Scene RenamingAPlate(bool replaces) {
+    return [replaces](Stage& stage) -> QWidget* {
+        stage.frame.SetCurrentFunction(replaces ? QStringLiteral("REPLACE")
+                                                : QStringLiteral("RENAME"));
+        const QString plate = stage.library.filePath(QStringLiteral("cover/cover plate.tfmprt"));
+        const QString unit = stage.library.filePath(QStringLiteral("cover/cover unit.tfmasm"));
+        auto* pane = stage.Find<renameRef>("renameRef");
+        pane->SetPartName({}, plate, plate + u';' + unit, replaces);
+        pane->findChild<QLineEdit*>(QStringLiteral("newname"))
+            ->setText(replaces ? stage.library.filePath(QStringLiteral("cover/bearing cap.tfmprt"))
+                               : QStringLiteral("ribbed cover plate.tfmprt"));
+        pane->findChild<QPushButton*>(QStringLiteral("Findnow"))->click();
+        return &stage.frame;
+    };
+}
+
+// Of a part that has configurations.
+Scene PropertiesTab(int tab) {
+    return [tab](Stage& stage) -> QWidget* {
+        stage.frame.Shell().OpenPath(stage.library.filePath(kScrew));
+        stage.frame.SetCurrentFunction(QStringLiteral("SUMMARY"));
+        stage.Find<QTabWidget>("TabStrip1")->setCurrentIndex(tab);
+        if (auto* list = stage.Find<QListWidget>("List1"); tab == 2 && list->count() > 0)
+            list->setCurrentRow(0);
+        return &stage.frame;
+    };
+}
+
+QWidget* Setup(Stage& stage) {
+    const QString folders = QStringLiteral("/work/gearbox;/work/fasteners;/work/library/bearings");
+    for (const char* name : {"Gearboxes", "Vendors"})
+        WriteFolderList(QLatin1String(name) + QLatin1String(kFolderListMarker), folders);
+    stage.Find<FolderListEditor>("lists")->ReloadNames();
+    stage.frame.SetCurrentFunction(QStringLiteral("SETUP"));
+    stage.Find<QLineEdit>("wuKey")->setText(QStringLiteral("Vendors"));
+    return &stage.frame;
+}
+
+// Edits that are not saved yet.
+QWidget* Configurations(Stage& stage) {
+    stage.frame.Shell().OpenPath(stage.library.filePath(kScrew));
+    stage.frame.SetCurrentFunction(QStringLiteral("EDIT"));
+    auto* tree = stage.Find<EditTree>("tvwconfig");
+    Q_EMIT tree->EditEnded(2, QStringLiteral("M6x25"));
+    Q_EMIT tree->DeletePressed(3);
+    return &stage.frame;
+}
+
+QWidget* Hyperlinks(Stage& stage) {
+    stage.frame.Shell().OpenPath(stage.library.filePath(kScrew));
+    stage.frame.SetCurrentFunction(QStringLiteral("LINK"));
+    Q_EMIT stage.Find<EditTree>("tvwhlink")
+        ->EditEnded(3, QStringLiteral("https://www.example.org/fasteners/m6-zinc"));
+    return &stage.frame;
+}
+
+QWidget* References(Stage& stage) {
+    stage.frame.Shell().OpenPath(stage.library.filePath(QStringLiteral("missing.tfmasm")));
+    stage.frame.SetCurrentFunction(QStringLiteral("REF"));
+    return &stage.frame;
+    return &stage.frame;
+}
+
+// The main assembly with its references and users.
+QWidget* CopyList(Stage& stage) {
+    stage.frame.SetCurrentFunction(QStringLiteral("COPY"));
+    auto* pane = stage.Find<QWidget>("copyRef");
+    for (const char* box : {"children", "whereused"})
+        pane->findChild<QCheckBox*>(QLatin1String(box))->setChecked(true);
+    pane->findChild<QLineEdit*>(QStringLiteral("prefix"))->setText(QStringLiteral("B-"));
+    pane->findChild<QPushButton*>(QStringLiteral("Findnow"))->click();
+    return &stage.frame;
+}
+
+QWidget* ReplaceInTargets(Stage& stage) {
+    CopyList(stage);
+    auto* form = new editDialog(&stage.frame);
+    form->findChild<QLineEdit*>(QStringLiteral("FindtextBox"))->setText(QStringLiteral("B-"));
+    form->findChild<QLineEdit*>(QStringLiteral("replaceTextBox"))->setText(QStringLiteral("C-"));
+    form->show();
+    return form;
+}
+
 QWidget* About(Stage& stage) {
     auto* box = new frmAbout(&stage.frame);
     box->show();
@@ -112,6 +207,17 @@ const std::vector<std::pair<QString, Scene>>& Scenes() {
         {QStringLiteral("help"), Help},
         {QStringLiteral("where-used"), WhereUsedOfAScrew},
         {QStringLiteral("search"), SearchByProperties},
+        {QStringLiteral("rename"), RenamingAPlate(false)},
+        {QStringLiteral("replace"), RenamingAPlate(true)},
+        {QStringLiteral("setup"), Setup},
+        {QStringLiteral("configurations"), Configurations},
+        {QStringLiteral("hyperlinks"), Hyperlinks},
+        {QStringLiteral("references"), References},
+        {QStringLiteral("properties-summary"), PropertiesTab(0)},
+        {QStringLiteral("properties-custom"), PropertiesTab(1)},
+        {QStringLiteral("properties-configuration"), PropertiesTab(2)},
+        {QStringLiteral("copy"), CopyList},
+        {QStringLiteral("copy-replace"), ReplaceInTargets},
     };
     return scenes;
 }
@@ -124,6 +230,7 @@ bool Shoot(const QString& name, const Scene& scene, const QString& document, con
     Stage stage{frame, QFileInfo(document).dir()};
     QWidget* seen = scene(stage);
     QApplication::processEvents();
+    QApplication::processEvents();  // what the first round has put off
     const QString file = folder.filePath(name + QStringLiteral(".png"));
     if (!seen || !seen->grab().save(file))
         return false;
@@ -142,6 +249,8 @@ int main(int argc, char* argv[]) {
     }
     ApplyTheme(qEnvironmentVariable("DOCBENCH_THEME", QStringLiteral("light")));
     const DesktopSeams seams;
+    ConsoleDialogs unattended{QString()};
+    gSeams.dialogs = &unattended;
     const QDir folder(arguments[2]);
     QDir().mkpath(folder.path());
     const QStringList wanted = arguments.mid(3);

@@ -49,6 +49,9 @@ struct CustomProperty {
     int type = 0;    // 0 text, 1 date, 2 number, 3 yes or no
 };
 
+// What of a DocumentInfo a stamp can be asked for.
+enum class PropertyGroup { Summary, Custom };
+
 // The tables that a stamp can be asked for.
 enum class Table { Components, ExternalReferences, Configurations, Hyperlinks };
 
@@ -93,10 +96,10 @@ public:
     virtual QString GetLockedBy() = 0;
     virtual void SetLockedBy(const QString& user) = 0;
 
-    // Digest of the properties as they were at Open or when this object last wrote them (summary
-    // and custom properties each for itself), leaving out dates, last saver and lock. Two equal
-    // stamps mean that nobody changed the properties in between.
-    virtual QByteArray GetStamp() = 0;
+    // Digest of the summary or of the custom properties as they were at Open or when this object
+    // last wrote them, leaving out dates, last saver and lock. Two equal stamps mean that nobody
+    // changed them in between.
+    virtual QByteArray GetStamp(PropertyGroup group) = 0;
 };
 
 // One document's references, configurations and hyperlinks. Positions count from 0 and hold until
@@ -295,9 +298,9 @@ public:
 
     // Downloads into a sibling of `localPath` that takes its name when it is whole.
     virtual bool GetFile(const QString& url, const QString& localPath) = 0;
-    // Uploads, unless that would overwrite somebody else's work: an address that was downloaded or
-    // uploaded before must still have what it had then; any other must not exist unless
-    // AllowOverwrite was called for it.
+    // Uploads, unless that would overwrite somebody else's work: the address that `localPath` was
+    // downloaded from or uploaded to must still have what it had then; any other must not exist
+    // unless AllowOverwrite was called for it.
     virtual bool PutFile(const QString& localPath, const QString& url) = 0;
     virtual bool MakeFolder(const QString& url) = 0;
     // Renames on the server, taking what is known of the one address to the other. `overwrite` 0
@@ -308,8 +311,11 @@ public:
 
     // Whether there is anything at an address, as its server says now.
     virtual Presence Exists(const QString& url) = 0;
-    // The user has agreed that whatever is at an address is replaced by the next upload.
+    // The user has agreed that whatever is at an address is replaced by the next upload. A download
+    // from there or a move before it ends that.
     virtual void AllowOverwrite(const QString& url) = 0;
+    // A downloaded file was renamed on this disk: what it was downloaded as stays known of it.
+    virtual void LocalFileMoved(const QString& /*from*/, const QString& /*to*/) {}
     // A whole sentence for the user about the last call that failed: the address, the reason and
     // what to do.
     virtual QString LastError() const = 0;

@@ -86,6 +86,27 @@ void RefreshFolderList(CellList& list) {
     list.Append(std::move(rows));
 }
 
+QString ReadFolderList(const QString& valueName) {
+    QString folders;
+    if (const auto key = OpenLists())
+        ErrorState().Assign(folders, [&] { return key->GetRegistryValue(valueName); });
+    return folders;
+}
+
+bool WriteFolderList(const QString& valueName, const QString& folders) {
+    int status = 1;
+    if (const auto key = OpenLists())
+        ErrorState().Assign(status, [&] { return key->SetRegistryValue(valueName, folders); });
+    return status == 0;
+}
+
+bool DeleteFolderList(const QString& valueName) {
+    int status = 0;  // 0 is the failure here
+    if (const auto key = OpenLists())
+        ErrorState().Assign(status, [&] { return key->DeleteRegistryValue(valueName); });
+    return status != 0;
+}
+
 bool ListContains(const CellList& list, const QString& text) {
     return std::any_of(list.Rows().begin(), list.Rows().end(), [&](const CellRow& row) {
         return (row.cells.empty() ? QString() : row.cells.front().text) == text;

@@ -21,6 +21,13 @@ QString ExpandFolderList(const QString& text);
 // marker, or empty for a list of the CAD application.
 void RefreshFolderList(CellList& list);
 
+// The folders of the list that is stored under a value's name, joined by ";"; empty without one.
+QString ReadFolderList(const QString& valueName);
+// False when it can't be stored.
+bool WriteFolderList(const QString& valueName, const QString& folders);
+// False when there is none, or it can't be deleted.
+bool DeleteFolderList(const QString& valueName);
+
 // True if the text of a row's item, not of its sub-items, equals `text` exactly.
 bool ListContains(const CellList& list, const QString& text);
 

@@ -96,9 +96,12 @@ bool UploadIfWeb(const QString& path) {
         return true;
     if (gWebFolder && gWebFolder->PutFile(*copy, path))
         return true;
+    const QString kept = QStringLiteral(
+        " Your copy is %1. It is deleted when the program ends or another document is browsed to: "
+        "copy it elsewhere first.");
     gSeams.dialogs->Box(QStringLiteral("File save to server failed"), Dialogs::Icon::None,
                         QString(), Dialogs::Buttons::Ok,
-                        gWebFolder ? gWebFolder->LastError() : QString());
+                        gWebFolder ? gWebFolder->LastError() + kept.arg(*copy) : QString());
     return false;
 }
 
@@ -111,6 +114,13 @@ bool FindUrlOfCopy(const QString& local, QString& url) {
         return true;
     }
     return false;
+}
+
+QHash<QString, QString> UrlsOfCopies() {
+    QHash<QString, QString> urls;
+    for (auto copy = gWebCopies.cbegin(); copy != gWebCopies.cend(); ++copy)
+        urls.insert(QDir::cleanPath(*copy), copy.key());
+    return urls;
 }
 
 bool MirrorWebFolder(const QString& url, QString& localFolder) {
@@ -145,6 +155,8 @@ bool RenameWebCopy(const QString& oldUrl, const QString& newUrl) {
         gWebCopies.insert(oldUrl, former);  // its changes may not be on the server yet
         return false;
     }
+    if (gWebFolder)
+        gWebFolder->LocalFileMoved(former, copy);
     QString other;
     if (FindUrlOfCopy(copy, other))
         gWebCopies.remove(other);

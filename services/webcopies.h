@@ -39,6 +39,9 @@ bool UploadIfWeb(const QString& path);
 // The address whose copy a local file is.
 bool FindUrlOfCopy(const QString& local, QString& url);
 
+// The addresses of all local copies, by their cleaned paths: for who has many to look up.
+QHash<QString, QString> UrlsOfCopies();
+
 // Fetches all documents of a web folder. False when it can't be listed or nothing was fetched.
 bool MirrorWebFolder(const QString& url, QString& localFolder);
 

@@ -29,7 +29,9 @@ public:
     virtual void ReloadProperties(const QString&) {}  // the document's record has changed
     virtual void ForgetDocuments() {}                 // another document is about to be opened
     virtual void ReleaseAll() {}  // stops a running search and frees what it holds
-    virtual QString HelpTopic() const { return {}; }  // its page in the help; empty: the contents
+    virtual QString HelpTopic() const {
+        return {};
+    }  // its page in the help, perhaps with "#section"; empty: the contents
 
     // The object whose property "Caption" shows the pane's status; null for none.
     virtual void SetStatusBarControl(QObject* statusBarControl) {

@@ -17,6 +17,10 @@ const std::pair<QLatin1String, QLatin1String> kOtherNames[] = {
     {QLatin1String("prt"), QLatin1String("picPart")},
     {QLatin1String("draw"), QLatin1String("picDrw")},
     {QLatin1String("drw"), QLatin1String("picDrw")},
+    {QLatin1String("picConfigAct"), QLatin1String("conf")},
+    {QLatin1String("picConfigMRR"), QLatin1String("confDerived")},
+    {QLatin1String("picConfigDel"), QLatin1String("confDeleted")},
+    {QLatin1String("picHyperlink"), QLatin1String("hyperlink")},
 };
 
 QString NameOf(const QString& key) {

@@ -1,8 +1,14 @@
 #include "shell/usercontrol1.h"
+#include "setup/setup.h"
 
 #include <QMenu>
 
 #include "cells/celltree.h"
+#include "copy/copyref.h"
+#include "editors/editconfig.h"
+#include "editors/edithyperlink.h"
+#include "editors/editreference.h"
+#include "editors/propertiesbox.h"
 #include "rename/renameref.h"
 #include "search/srccontrol.h"
 #include "services/dialogs.h"
@@ -16,6 +22,7 @@
 #include "services/seams.h"
 #include "services/settingsstore.h"
 #include "services/texts.h"
+#include "services/webauthority.h"
 #include "services/webcopies.h"
 #include "services/webdocument.h"
 #include "shell/languagefonts.h"
@@ -66,8 +73,16 @@ UserControl1::UserControl1(QWidget* parent)
     UseWebFolders();
     PrepareScratch();
     AddPane(PaneId::Preview, new PreviewPane);
+    AddPane(PaneId::Properties, new PropertiesBox);
+    AddPane(PaneId::References, new editReference);
+    AddPane(PaneId::Configurations, new editConfig);
+    AddPane(PaneId::Hyperlinks, new EditHyperLink);
     AddPane(PaneId::WhereUsed, new whereUsed);
     AddPane(PaneId::Rename, new renameRef);
+    AddPane(PaneId::Copy, new copyRef);
+    auto* options = new setup;
+    AddPane(PaneId::Setup, options);
+    connect(options, &setup::SetupChanged, this, [this] { RefreshTree(QString()); });
     AddPane(PaneId::Search, new srcControl);
 }
 
@@ -130,6 +145,8 @@ void UserControl1::ConnectWaysIn() {
     connect(ui_->Command1, &QPushButton::clicked, this, &UserControl1::Browse);
     connect(ui_->filepathCombo, &PathCombo::Entered, this, &UserControl1::OpenAndList);
     connect(ui_->filepathCombo, &PathCombo::Chosen, this, [this](const QString& path) {
+        if (RefusesPassword(path))
+            return;
         LeaveFileOperation();
         gWebDocument = IsWebPath(path);
         OpenDocument(path);
@@ -283,6 +300,8 @@ void UserControl1::hideEvent(QHideEvent* event) {
 }
 
 bool UserControl1::ShowDesc() const {
+    if (const auto* options = qobject_cast<const setup*>(PaneOf(PaneId::Setup)))
+        return options->ShowDesc();
     const auto key = SettingsKey::Open(SettingsKey::Hive::CurrentUser, kExtReferencesKey);
     return !key || key->Number(QStringLiteral("Show Description")).value_or(1) != 0;
 }
@@ -323,12 +342,21 @@ void UserControl1::OpenFromWebFolder() {
 }
 
 void UserControl1::OpenAndList(const QString& path) {
-    if (path.isEmpty() || DocTypeOf(path) == DocType::None)
+    if (path.isEmpty() || DocTypeOf(path) == DocType::None || RefusesPassword(path))
         return;
     LeaveFileOperation();
     gWebDocument = IsWebPath(path);
     OpenDocument(path);
     ui_->filepathCombo->InsertFirst(path);
+}
+
+// The address would go on into the tree, the messages, the path list and what the host saves.
+bool UserControl1::RefusesPassword(const QString& path) {
+    if (!HasPassword(path))
+        return false;
+    ui_->filepathCombo->setEditText(WithoutUser(path));
+    gSeams.dialogs->Box(PasswordInAddressText(), Dialogs::Icon::Exclamation, gAppTitle);
+    return true;
 }
 
 void UserControl1::LeaveFileOperation() {

@@ -97,6 +97,7 @@ private:
     void Browse();
     void OpenFromWebFolder();
     void OpenAndList(const QString& path);  // typed or dropped
+    bool RefusesPassword(const QString& path);
     void LeaveFileOperation();
     void LoadTree(const QString& path);
     void RefreshTree(const QString& newfilename);

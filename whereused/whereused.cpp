@@ -10,6 +10,7 @@
 #include "panes/folderwalk.h"
 #include "panes/listmenu.h"
 #include "panes/pathcolumn.h"
+#include "panes/rowbatch.h"
 #include "panes/searchprogress.h"
 #include "panes/usekindboxes.h"
 #include "services/dialogs.h"
@@ -109,9 +110,10 @@ void whereUsed::SetCaptions() {
 void whereUsed::ConnectControls() {
     for (QLineEdit* field : {ui_->wuName, ui_->wuLookin}) {
         connect(field, &QLineEdit::textChanged, this, &whereUsed::EnableFindNow);
-        connect(field, &QLineEdit::returnPressed, this, &whereUsed::Findnow);
+        // Behind the key: the pane may go away during the search, and the field with it.
+        connect(field, &QLineEdit::returnPressed, this, &whereUsed::Findnow, Qt::QueuedConnection);
     }
-    connect(ui_->wuFindNow, &QPushButton::clicked, this, &whereUsed::Search);
+    connect(ui_->wuFindNow, &QPushButton::clicked, this, &whereUsed::Findnow);
     connect(ui_->wuNewsearch, &QPushButton::clicked, this, &whereUsed::NewSearch);
     connect(ui_->wuStop, &QPushButton::clicked, this, [this] {
         mStopRequested = true;
@@ -142,6 +144,8 @@ void whereUsed::SetPartNameToSearch(const QString& path, const QString&) {
 }
 
 void whereUsed::Findnow() {
+    if (ui_->wuLookin->hasFocus())
+        ui_->wuFindNow->setFocus();  // leaving the field tests its folders: before anything else
     if (ui_->wuFindNow->isEnabled())
         Search();
 }
@@ -150,8 +154,10 @@ void whereUsed::ReleaseAll() {
     mStopRequested = true;
 }
 
+// A search that runs can be handed another document, but not be joined by a second search.
 void whereUsed::EnableFindNow() {
-    ui_->wuFindNow->setEnabled(!ui_->wuName->text().isEmpty() && !ui_->wuLookin->text().isEmpty());
+    ui_->wuFindNow->setEnabled(!searching_ && !ui_->wuName->text().isEmpty() &&
+                               !ui_->wuLookin->text().isEmpty());
 }
 
 void whereUsed::EnableSearchControls(bool enabled) {
@@ -189,6 +195,9 @@ void whereUsed::Search() {
     if (ui_->wuLookin->text().isEmpty())
         return;
     mStopRequested = false;
+    searching_ = true;
+    rows_ =
+        std::make_unique<RowBatch>(ui_->whereList->List(), [this](CellRow& row) { ShowRow(row); });
     const QPointer<whereUsed> alive(this);
     try {
         SearchPlaces();
@@ -206,7 +215,10 @@ void whereUsed::Search() {
 }
 
 void whereUsed::EndSearch() {
+    searching_ = false;
+    rows_->Flush();
     EnableSearchControls(true);
+    EnableFindNow();
     ui_->Animation1->hide();
     ui_->wuStop->setEnabled(false);
     ui_->wuName->setFocus();
@@ -283,7 +295,14 @@ void whereUsed::SearchFolder(FolderSearcher& finder, const QString& folder,
     const int count = finder.GetResultCount();
     for (int i = 0; i < count; ++i)
         AcceptRow(finder.GetResult(i), urlPrefix);
+    rows_->Offer();
     ShowProgress(finder.GetSearchCounts());
+}
+
+void whereUsed::ShowRow(CellRow& row) const {
+    const CellList& list = ui_->whereList->List();
+    for (const int column : {kDocument, kReference})
+        row.cells[size_t(column)].text = ShownPath(list, column, PathOf(row, column));
 }
 
 void whereUsed::AcceptRow(const FoundReference& found, const QString& urlPrefix) {
@@ -297,15 +316,11 @@ void whereUsed::AcceptRow(const FoundReference& found, const QString& urlPrefix)
     }
     if (RowExists(document, relation, reference) || kinds_->Kinds().Drops(relation))
         return;
-    CellList& list = ui_->whereList->List();
     const QString shownRelation =
         found.inContext ? RelationLabel(document, found.reference) : gRelationDefault;
-    list.Append(
-        CellRow{.cells = {{.text = ShownPath(list, kDocument, document), .toolTip = document},
+    rows_->Add({.cells = {{.text = {}, .toolTip = document},
                           {.text = shownRelation},
-                          {.text = ShownPath(list, kReference, reference),
-                           .tag = reference,
-                           .toolTip = reference}},
+                          {.text = {}, .tag = reference, .toolTip = reference}},
                 .tag = document,
                 .image = PictureOfRow(document, found.inContext)});
     listed_.insert(RowKey(document, shownRelation, reference));
@@ -320,7 +335,7 @@ void whereUsed::ShowProgress(const SearchCounts& counts) {
     ShowSearchProgress(*ui_->wuProgress,
                        {.documents = counted_.documents + counts.documents,
                         .unread = counted_.unread + counts.unread},
-                       ui_->whereList->List().Count());
+                       rows_->Count());
 }
 
 void whereUsed::ToggleColumn(int column) {

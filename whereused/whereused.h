@@ -17,7 +17,9 @@ class whereUsed;
 namespace docbench {
 
 class FolderListInput;
+class RowBatch;
 class UseKindBoxes;
+struct CellRow;
 struct PathColumn;
 
 class DOCBENCH_EXPORT whereUsed : public Pane {
@@ -51,6 +53,7 @@ private:
     void SearchWeb(const QString& url);
     void SearchFolders(const QString& folder, const QString& urlPrefix);
     void SearchFolder(FolderSearcher& finder, const QString& folder, const QString& urlPrefix);
+    void ShowRow(CellRow& row) const;
     void AcceptRow(const FoundReference& found, const QString& urlPrefix);
     bool RowExists(const QString& document, const QString& relation,
                    const QString& reference) const;
@@ -64,7 +67,9 @@ private:
     std::unique_ptr<Ui::whereUsed> ui_;
     FolderListInput* lookIn_;
     UseKindBoxes* kinds_;
+    std::unique_ptr<RowBatch> rows_;  // of the running search
     bool mStopRequested = false;
+    bool searching_ = false;
     SearchTarget target_;   // of the running search
     QSet<QString> listed_;  // what RowExists compares, of every row
     SearchCounts counted_;  // by the searchers that are done with

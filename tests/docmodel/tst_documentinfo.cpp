@@ -56,7 +56,7 @@ private:
                 [&] { info.SetLocked(true); },
                 [&] { info.GetLockedBy(); },
                 [&] { info.SetLockedBy("x"); },
-                [&] { info.GetStamp(); }};
+                [&] { info.GetStamp(docbench::PropertyGroup::Custom); }};
     }
 
 private Q_SLOTS:

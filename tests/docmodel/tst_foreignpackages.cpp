@@ -151,7 +151,7 @@ private Q_SLOTS:
         PackageWriter::Create(path_, {{"docProps/core.xml", core}, {"docProps/custom.xml", custom}},
                               true);
         const auto info = OpenInfo(path_);
-        const QByteArray stamp = info->GetStamp();
+        const QByteArray stamp = info->GetStamp(docbench::PropertyGroup::Custom);
         const QString lines = info->GetCustomProperty(0).value.toString();
         QCOMPARE(lines, "one\r\ntwo\r");
         QVERIFY(info->SetCustomProperty("lines", lines));
@@ -160,7 +160,7 @@ private Q_SLOTS:
         info->Save();
         QCOMPARE(PartOf(path_, "docProps/custom.xml"), custom);
         QCOMPARE(OpenInfo(path_)->GetTitle(), "one\rtwo");
-        QCOMPARE(OpenInfo(path_)->GetStamp(), stamp);
+        QCOMPARE(OpenInfo(path_)->GetStamp(docbench::PropertyGroup::Custom), stamp);
         QVERIFY(info->SetCustomProperty("lines", "one\ntwo\nthree"));
         info->Save();
         QVERIFY(PartOf(path_, "docProps/custom.xml").contains("one\ntwo\nthree<"));

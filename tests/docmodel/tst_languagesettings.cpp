@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include "docmodel/access.h"
+#include "services/languagechoice.h"
 #include "services/localefont.h"
 #include "tests/support/testenvironment.h"
 
@@ -89,6 +90,15 @@ private Q_SLOTS:
     void TheFirstOfTheWantedLanguagesCounts() {
         QCOMPARE(Ask({{"LANG", "de_DE.UTF-8"}, {"LANGUAGE", "fr:de"}}).first(),
                  QString("/lang/french"));
+    }
+
+    // The fonts are those of the locale all the same.
+    void AChosenLanguageComesBeforeTheLocale() {
+        QVERIFY(docbench::ChooseLanguage("german"));
+        QCOMPARE(Ask({{"LANG", "ja_JP.UTF-8"}}),
+                 QStringList({"/lang/german", QString::fromUtf8("ＭＳ Ｐゴシック"), "9"}));
+        QVERIFY(docbench::ChooseLanguage(QString()));
+        QCOMPARE(Ask({{"LANG", "fr_FR.UTF-8"}}).first(), QString("/lang/french"));
     }
 
     void OnlyFourLocalesHaveAFontOfTheirOwn() {

@@ -1,6 +1,7 @@
 // The reference index: it makes searches faster, and no answer different.
 
 #include <fcntl.h>
+#include <linux/magic.h>
 #include <signal.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -194,6 +195,10 @@ private Q_SLOTS:
     void TimesAheadOfTheClockAreNotSettled() {
         const qint64 now = SystemClockNow();
         const qint64 old = now - 10 * kSecond;
+        QVERIFY(GrainOf(EXT4_SUPER_MAGIC).has_value());
+        for (const quint32 untrusted :
+             {quint32(NFS_SUPER_MAGIC), quint32(SMB2_SUPER_MAGIC), quint32(MSDOS_SUPER_MAGIC)})
+            QVERIFY(!GrainOf(untrusted));
         QVERIFY(IsSettled({0, old, old, 0}, now, 2 * kSecond));
         QVERIFY(!IsSettled({0, now - kSecond, old, 0}, now, 2 * kSecond));
         QVERIFY(!IsSettled({0, old, now - kSecond, 0}, now, 2 * kSecond));

@@ -44,6 +44,17 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(folder_));
     }
 
+    void APasswordInAnAddressIsNotStored() {
+        const QString holder = MakeHolder(Path("top.tfmasm"), "http://ann:pw@s:81/w/a@b.tfmprt");
+        QCOMPARE(TargetOf(holder), QString("http://s:81/w/a@b.tfmprt"));
+        const auto file = OpenFile(holder);
+        file->SetComponentPath(0, "https://bob:pw@s\\w\\c.tfmprt");
+        file->SetExternalReferencePath(0, "https://bob:pw@s\\w\\c.tfmprt");
+        file->Save();
+        QCOMPARE(TargetOf(holder), QString("https://s\\w\\c.tfmprt"));
+        QCOMPARE(TargetOf(MakeHolder(holder, "/x/ann:pw@s.tfmprt")), QString("/x/ann:pw@s.tfmprt"));
+    }
+
     void PathsAreCleanedTextually_data() {
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("clean");

@@ -60,8 +60,12 @@ private Q_SLOTS:
     void aStalledSecureConnectionIsGivenUp();
     void noServerIsToldInWords();
     void aClientGoesOnAfterAFault();
+    void aSilentServerIsWaitedForOnceAnOccasion();
+    void withoutPropertiesTheHeadTellsWhetherAFileIsThere_data();
+    void withoutPropertiesTheHeadTellsWhetherAFileIsThere();
     void anEndlessErrorPageIsNotReadToItsEnd();
-    void aPackedBodyIsNotTakenForTheFile();
+    void aChangedBodyIsNotTakenForTheFile_data();
+    void aChangedBodyIsNotTakenForTheFile();
     void aFullDiskEndsTheDownload();
     void aMissingLocalFolderIsTold();
     void aRedirectLoopEnds();
@@ -255,9 +259,60 @@ void TestWebFaults::aClientGoesOnAfterAFault() {
     });
     const auto client = MakeClient({.timeoutSeconds = 1});
     QVERIFY(!client->GetFile(server.Url(QStringLiteral("a")), Local()));
+    QCoreApplication::processEvents();  // something else is done
     QVERIFY2(client->GetFile(server.Url(QStringLiteral("a")), Local()),
              qPrintable(client->LastError()));
     QCOMPARE(Read(Local()), QByteArray("text"));
+}
+
+void TestWebFaults::aSilentServerIsWaitedForOnceAnOccasion() {
+    // Each connection is one request that is not answered.
+    int requests = 0;
+    const FaultServer server([&requests](const Request&) -> Reply {
+        ++requests;
+        return {.takesBody = false};
+    });
+    const FaultServer other(Always({.body = "text"}));
+    const auto client = MakeClient({.timeoutSeconds = 1});
+    for (const char* name : {"a", "b", "c"}) {
+        const QString url = server.Url(QString::fromLatin1(name));
+        QVERIFY(!client->GetFile(url, Local()));
+        QVERIFY2(client->LastError().startsWith(url), qPrintable(client->LastError()));
+        QVERIFY2(client->LastError().contains(QStringLiteral("silent for 1 second")),
+                 qPrintable(client->LastError()));
+    }
+    QCOMPARE(requests, 1);
+    QVERIFY(client->GetFile(other.Url(QStringLiteral("a")), Local()));  // no fault of others
+    QCoreApplication::processEvents();  // the user does something else
+    QVERIFY(!client->GetFile(server.Url(QStringLiteral("a")), Local()));
+    QCOMPARE(requests, 2);
+}
+
+void TestWebFaults::withoutPropertiesTheHeadTellsWhetherAFileIsThere_data() {
+    QTest::addColumn<int>("properties");
+    QTest::addColumn<int>("head");
+    QTest::addColumn<int>("presence");
+    using Presence = docbench::WebFolderClient::Presence;
+    for (const int properties : {400, 405, 501}) {
+        for (const auto& [head, presence] :
+             {std::pair{200, Presence::Present}, std::pair{404, Presence::Absent},
+              std::pair{410, Presence::Absent}, std::pair{403, Presence::Unknown},
+              std::pair{500, Presence::Unknown}})
+            QTest::addRow("%d, then %d", properties, head) << properties << head << int(presence);
+    }
+}
+
+void TestWebFaults::withoutPropertiesTheHeadTellsWhetherAFileIsThere() {
+    QFETCH(int, properties);
+    QFETCH(int, head);
+    QFETCH(int, presence);
+    const FaultServer server([&](const Request& request) -> Reply {
+        return {.status = request.method == "HEAD" ? head : properties};
+    });
+    const auto client = MakeClient();
+    QCOMPARE(int(client->Exists(server.Url(QStringLiteral("a")))), presence);
+    QCOMPARE(server.Count("PROPFIND"), 1);
+    QCOMPARE(server.Count("HEAD"), 1);
 }
 
 void TestWebFaults::anEndlessErrorPageIsNotReadToItsEnd() {
@@ -271,8 +326,19 @@ void TestWebFaults::anEndlessErrorPageIsNotReadToItsEnd() {
              qPrintable(client->LastError()));
 }
 
-void TestWebFaults::aPackedBodyIsNotTakenForTheFile() {
-    const FaultServer server(Always({.headers = {{"Content-Encoding", "gzip"}}, .body = "packed"}));
+void TestWebFaults::aChangedBodyIsNotTakenForTheFile_data() {
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QByteArray>("packing");
+    QTest::newRow("packed") << 200 << QByteArray("gzip");
+    QTest::newRow("by a server on the way") << 203 << QByteArray("identity");
+}
+
+void TestWebFaults::aChangedBodyIsNotTakenForTheFile() {
+    QFETCH(int, status);
+    QFETCH(QByteArray, packing);
+    const FaultServer server(Always({.status = status,
+                                     .headers = {{"ETag", "\"1\""}, {"Content-Encoding", packing}},
+                                     .body = "changed"}));
     const auto client = MakeClient();
     QVERIFY(!client->GetFile(server.Url(QStringLiteral("a")), Local()));
     QVERIFY(LocalFiles().isEmpty());

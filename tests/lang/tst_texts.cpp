@@ -63,6 +63,11 @@ private Q_SLOTS:
     void everyTextSaysWhereItIsShown();
     void everyTextTakesTheValuesOfItsRole_data() { Languages(); }
     void everyTextTakesTheValuesOfItsRole();
+    void theLanguagesOfTheProgramAreComplete();
+    void aTranslationKeepsTheFormOfTheText_data() { Languages(); }
+    void aTranslationKeepsTheFormOfTheText();
+    void aTranslationIsNotTheEnglishText_data() { Languages(); }
+    void aTranslationIsNotTheEnglishText();
     void noTextIsCutByTheBuffer_data() { Languages(); }
     void noTextIsCutByTheBuffer();
     void captionsThatAreReadBackDiffer_data() { Languages(); }
@@ -167,6 +172,48 @@ void TestTexts::everyTextTakesTheValuesOfItsRole() {
         const QString text = file.texts.value(role.number);
         QVERIFY2(text.count(QLatin1String("%s")) == role.values, role.name);
         QVERIFY2(text.count(u'%') == role.values, role.name);  // there is no other placeholder
+    }
+}
+
+void TestTexts::theLanguagesOfTheProgramAreComplete() {
+    QCOMPARE(LanguageNames(),
+             QStringList({"chinese-simplified", "english", "french", "german", "japanese"}));
+}
+
+// Blanks at the ends are part of a text, the dots say that a dialog follows, and a caption without
+// a key can't be reached from the keyboard.
+void TestTexts::aTranslationKeepsTheFormOfTheText() {
+    const LanguageFile file = File();
+    const LanguageFile english = ReadLanguageFile(LanguageFileOf(QStringLiteral("english")));
+    const auto form = [](const QString& text) {
+        return QList<bool>{text.startsWith(u' '), text.endsWith(u' '),
+                           text.endsWith(QLatin1String("...")), text.contains(u'&'),
+                           text.contains(u'\n')};
+    };
+    for (const Role& role : Roles())
+        QVERIFY2(form(file.texts.value(role.number)) == form(english.texts.value(role.number)),
+                 role.name);
+    for (const auto& filter : Numbers(Text::PartFilter, Text::AssemblyFilter, Text::DrawingFilter,
+                                      Text::OpenFilter, Text::SavedSearchFilter)) {
+        const QStringList pieces = file.texts.value(filter).split(u'|');
+        const QStringList of = english.texts.value(filter).split(u'|');
+        QCOMPARE(pieces.size(), of.size());
+        for (qsizetype i = 1; i < of.size(); i += 2)
+            QCOMPARE(pieces[i], of[i]);
+    }
+}
+
+// A sentence that reads as in English was forgotten; single words may be the same.
+void TestTexts::aTranslationIsNotTheEnglishText() {
+    QFETCH(QString, language);
+    if (language == QLatin1String("english"))
+        return;
+    const LanguageFile file = File();
+    const LanguageFile english = ReadLanguageFile(LanguageFileOf(QStringLiteral("english")));
+    for (const Role& role : Roles()) {
+        const QString text = english.texts.value(role.number);
+        const bool hasSentence = text.trimmed().endsWith(u'.') || text.trimmed().endsWith(u'?');
+        QVERIFY2(!hasSentence || file.texts.value(role.number) != text, role.name);
     }
 }
 

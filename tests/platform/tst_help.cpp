@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QSet>
 #include <QTest>
 #include <QTextBrowser>
@@ -84,6 +85,7 @@ private Q_SLOTS:
     void aSearchFindsAllWordsWhateverTheirCase();
     void aCompiledHelpFileStandsForTheFolderBesideIt();
     void aTopicOpensItsPage();
+    void aTopicMayNameASection();
     void aPageOfItsOwnIsShown();
     void theContentsFollowThePage();
     void anEntryLeadsBackToItsPageAfterTheStartPage();
@@ -149,6 +151,21 @@ void TestHelp::aTopicOpensItsPage() {
     window.Open(help.file, QStringLiteral("gears"));
     QCOMPARE(ShownHelp(), shown);  // one window
     QCOMPARE(ShownPage()->source().toLocalFile(), help.Page("gears"));
+}
+
+void TestHelp::aTopicMayNameASection() {
+    const SmallHelp help;
+    WritePage(help.Page("gears"),
+              "<title>Gears</title>" + QByteArray("<p>Teeth mesh.</p>").repeated(200) +
+                  "<h2 id=\"wear\">Wear</h2>" + QByteArray("<p>They wear.</p>").repeated(200));
+    HelpWindow window;
+    window.Open(help.file, QStringLiteral("gears"));
+    QCOMPARE(ShownPage()->verticalScrollBar()->value(), 0);
+    window.Open(help.file, QStringLiteral("gears#wear"));
+    QVERIFY(ShownPage()->verticalScrollBar()->value() > 0);
+    QCOMPARE(ShownPage()->source().toLocalFile(), help.Page("gears"));
+    QCOMPARE(ShownHelp()->findChild<QTreeWidget*>()->currentItem()->text(0),
+             QStringLiteral("Gears"));
 }
 
 void TestHelp::aPageOfItsOwnIsShown() {

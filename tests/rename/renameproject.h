@@ -25,14 +25,20 @@ struct Project {
             const QString name = QString("holder%1.tfmasm").arg(i, 2, 10, QChar('0'));
             holders.append(library.Make(name, {{pin, i + 1}}, {{pin, "mirrored"}}));
         }
+        SearchAgain();
+    }
+    void SearchAgain(const UseKinds& kinds = {}, const QString& folders = {}) {
         const RenameSearch search{.document = pin,
                                   .parent = holders[0],
-                                  .kinds = {},
+                                  .kinds = kinds,
                                   .status = [](const QString&) {},
                                   .yield = [] {},
                                   .cancelled = [] { return false; },
-                                  .progress = [](const SearchCounts&) {}};
-        SearchHolders(search, library.Folder(), list);
+                                  .progress = [](const SearchCounts&, int) {}};
+        list.Clear();
+        RowBatch rows = RenameRows(list);
+        SearchHolders(search, folders.isEmpty() ? library.Folder() : folders, rows);
+        rows.Flush();
     }
     RenamePlan Plan() const {
         return {.oldPath = pin, .newPath = library.Path("bolt.tfmprt"), .parent = holders[0]};

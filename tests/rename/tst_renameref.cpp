@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -20,6 +21,7 @@
 #include "services/spreadsheet.h"
 #include "services/texts.h"
 #include "tests/shell/shellbench.h"
+#include "tests/support/failingaccess.h"
 #include "tests/support/filelockholder.h"
 #include "tests/support/testdialogs.h"
 #include "tests/support/testenvironment.h"
@@ -90,6 +92,25 @@ struct Bench {
     std::unique_ptr<renameRef> pane;
 };
 
+// Does something once while the pane searches a subfolder.
+class WhenSearching {
+public:
+    WhenSearching(Bench& bench, const QString& subfolder, const std::function<void()>& what) {
+        const QString status = Format(Text::SearchingHolders, bench.library.Path(subfolder));
+        timer_.setInterval(0);
+        QObject::connect(&timer_, &QTimer::timeout, [this, &bench, status, what] {
+            if (bench.status.caption != status)
+                return;
+            timer_.stop();
+            what();
+        });
+        timer_.start();
+    }
+
+private:
+    QTimer timer_;
+};
+
 void SetReadOnly(const QString& path, bool readOnly) {
     const QFile::Permissions write = QFile::WriteOwner | QFile::WriteUser;
     const QFile::Permissions read = QFile::ReadOwner | QFile::ReadUser;
@@ -135,6 +156,36 @@ private Q_SLOTS:
         QVERIFY(bench.Child<QCheckBox>("whereused")->isHidden());
     }
 
+    void aRefusedDocumentLeavesNothingToApply() {
+        Bench bench;
+        bench.Load();
+        const FileLockHolder holder(bench.right);
+        bench.dialogs.Expect(Format(Text::AccessInUse, bench.right));
+        bench.pane->SetPartName("right", bench.right, bench.right, false);
+        bench.Type("other.tfmasm");
+        QVERIFY(!bench.Button("apply")->isEnabled());
+        QVERIFY(!bench.NewName()->isEnabled());
+        bench.Load();
+        QVERIFY(bench.NewName()->isEnabled() && bench.Button("apply")->isEnabled());
+    }
+
+    void anErrorWhileLoadingIsTold() {
+        Bench bench;
+        bench.Load();
+        {
+            const FailingAccess failing([](const char* operation, const QString&) {
+                if (QLatin1String(operation) == QLatin1String("GetAccessState"))
+                    throw DocumentError("no such luck");
+            });
+            bench.dialogs.Expect(Format(Text::RenameLoadFailed, bench.right, "no such luck"));
+            bench.pane->SetPartName("right", bench.right, bench.right, false);
+        }
+        QVERIFY(bench.dialogs.AllCame());
+        QCOMPARE(bench.NewName()->text(), QString("pin.tfmprt"));  // as it stood
+        bench.Type("other.tfmprt");
+        QVERIFY(!bench.Button("apply")->isEnabled());  // whose name would that be?
+    }
+
     void aReadOnlyParentIsRefused() {
         Bench bench;
         SetReadOnly(bench.left, true);
@@ -177,21 +228,25 @@ private Q_SLOTS:
 
     void wrongNamesAreRefused_data() {
         QTest::addColumn<QString>("name");
-        QTest::addColumn<int>("text");
-        QTest::newRow("its own") << "pin.tfmprt" << 211;
-        QTest::newRow("an ancestor's, whatever its case") << "TOP.TFMASM" << 211;
-        QTest::newRow("another type") << "bolt.tfmasm" << 216;
-        QTest::newRow("taken") << "taken.tfmprt" << 219;
-        QTest::newRow("with a folder") << "sub/bolt.tfmprt" << 220;
+        QTest::addColumn<QString>("text");
+        LoadResources();
+        QTest::newRow("its own") << "pin.tfmprt" << Format(Text::TargetCollides, "pin");
+        QTest::newRow("an ancestor's, whatever its case")
+            << "TOP.TFMASM" << Format(Text::TargetCollides, "TOP");
+        QTest::newRow("another type") << "bolt.tfmasm" << QString(gStrings[216]);
+        QTest::newRow("taken") << "taken.tfmprt" << QString(gStrings[219]);
+        QTest::newRow("with a folder") << "sub/bolt.tfmprt" << QString(gStrings[220]);
+        QTest::newRow("with a folder, as elsewhere")
+            << "sub\\bolt.tfmprt" << QString(gStrings[220]);
     }
     void wrongNamesAreRefused() {
         QFETCH(QString, name);
-        QFETCH(int, text);
+        QFETCH(QString, text);
         Bench bench;
         bench.library.Make("taken.tfmprt");
         bench.Load();
         bench.Type(name);
-        bench.dialogs.Expect(gStrings[text].section("%s", 0, 0) + '*');
+        bench.dialogs.Expect(text);
         QTest::keyClick(bench.NewName(), Qt::Key_Return);
         QVERIFY(bench.dialogs.AllCame());
         QVERIFY(!bench.Button("apply")->isEnabled());
@@ -384,6 +439,8 @@ private Q_SLOTS:
         QTimer::singleShot(0, bench.pane.get(), [&] {
             QCOMPARE(bench.Button("Findnow")->text(), gStrings[53]);
             QVERIFY(!bench.Button("apply")->isEnabled());
+            bench.Type("bolt.tfmprt");  // the name may be typed, but not applied before the end
+            QVERIFY(!bench.Button("apply")->isEnabled());
             bench.Find();
         });
         bench.Find();
@@ -393,6 +450,175 @@ private Q_SLOTS:
         bench.Type("bolt.tfmprt");
         bench.Apply();  // nobody asks: the search counts as done
         QVERIFY(!QFile::exists(bench.pin));
+    }
+
+    void aStoppedSearchKeepsItsRows() {
+        Bench bench;
+        bench.library.Make("a/one.tfmasm", {{bench.pin}});
+        bench.library.Make("b/two.tfmasm", {{bench.pin}});
+        bench.Load();
+        const WhenSearching stop(bench, "a", [&] { bench.Find(); });
+        bench.Find();
+        QCOMPARE(bench.List()->List().Count(), 2);
+        QCOMPARE(bench.Row(1).cells[kHolderColumn].tag, bench.right);
+    }
+
+    void anotherDocumentEndsTheSearch() {
+        Bench bench;
+        bench.library.Make("a/one.tfmasm", {{bench.pin}});
+        bench.library.Make("b/two.tfmasm", {{bench.pin}});
+        bench.Load();
+        const WhenSearching hand(bench, "a", [&] {
+            bench.pane->SetPartName("left", bench.left, bench.left, false);
+            bench.status.caption = "handed on";
+        });
+        bench.Find();
+        QCOMPARE(bench.status.caption, QString("handed on"));
+        QCOMPARE(bench.List()->List().Count(), 0);
+        QCOMPARE(bench.NewName()->text(), QString("left.tfmasm"));
+        QVERIFY(bench.Button("Findnow")->isEnabled());
+        QCOMPARE(bench.Button("Findnow")->text(), Tr(Text::FindNow));
+    }
+
+    void thePaneMayGoAwayDuringASearch() {
+        Bench bench;
+        bench.library.Make("a/one.tfmasm", {{bench.pin}});
+        bench.library.Make("b/two.tfmasm", {{bench.pin}});
+        bench.Load();
+        const WhenSearching remove(bench, "a", [&] {
+            bench.status.caption = "gone";
+            bench.pane.reset();
+        });
+        bench.Button("Findnow")->click();
+        QVERIFY(!bench.pane);
+        QCOMPARE(bench.status.caption, QString("gone"));
+    }
+
+    void withNothingToLookInTheSearchDoesNotCount() {
+        Bench bench;
+        bench.Load();
+        QTimer::singleShot(0, [] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            dialog->findChild<QLineEdit*>("wuLookin")->setText(" a list without folders");
+            dialog->findChild<QPushButton*>("OKButton")->click();
+        });
+        QTest::mouseClick(bench.Button("searchrule"), Qt::LeftButton);
+        bench.Find();
+        bench.Type("bolt");
+        bench.dialogs.Expect(gStrings[360], Dialogs::Icon::Exclamation, Dialogs::Answer::Cancel);
+        bench.Apply();
+        QVERIFY(bench.dialogs.AllCame());
+        QVERIFY(QFile::exists(bench.pin));
+    }
+
+    void aParentThatIsRefusedWhenApplyingStopsIt() {
+        Bench bench;
+        bench.Load();
+        bench.Type("bolt");
+        SetReadOnly(bench.left, true);
+        bench.dialogs.Expect(gStrings[360], Dialogs::Icon::Exclamation, Dialogs::Answer::No);
+        bench.dialogs.Expect(Format(Text::AccessReadOnly, bench.left));
+        bench.Apply();
+        QVERIFY(bench.dialogs.AllCame());
+        QVERIFY(QFile::exists(bench.pin));
+        QVERIFY(!bench.Button("Findnow")->isEnabled());
+        SetReadOnly(bench.left, false);
+    }
+
+    void hiddenRowsTakePart() {
+        Bench bench;
+        bench.Load();
+        bench.Find();
+        bench.Child<QCheckBox>("whereused")->click();
+        QVERIFY(bench.Row(0).ticked && bench.Row(1).ticked);
+        bench.Type("bolt");
+        bench.Apply();
+        QCOMPARE(bench.PathIn(bench.right), bench.library.Path("bolt.tfmprt"));
+    }
+
+    void withNoRowTickedTheFileIsStillMoved() {
+        Bench bench;
+        bench.pane->SetPartName("pin", bench.pin, bench.pin, false);  // a root
+        bench.Find();
+        bench.ClickTick(0);
+        bench.ClickTick(1);
+        bench.Type("bolt");
+        bench.Apply();
+        QVERIFY(QFile::exists(bench.library.Path("bolt.tfmprt")));
+        QCOMPARE(bench.status.caption, Format(Text::RenameDone, "0", "0"));
+    }
+
+    void everyHolderNamedLikeTheNewNameStopsApplyOnce() {
+        Bench bench;
+        const QString one = bench.library.Make("a/other.tfmprt", {}, {{bench.pin, "derived"}});
+        const QString two = bench.library.Make("b/other.tfmprt", {}, {{bench.pin, "derived"}});
+        bench.Load();
+        bench.Find();
+        bench.Type("other.tfmprt");
+        for (const QString& twin : {one, two}) {
+            bench.dialogs.Expect(Format(Text::HolderHasNewName, twin, "other.tfmprt"));
+            bench.Apply();
+            QVERIFY(bench.dialogs.AllCame());
+            QVERIFY(QFile::exists(bench.pin));
+        }
+        bench.Apply();
+        QVERIFY(!QFile::exists(bench.pin));
+    }
+
+    void theReplacedDocumentItselfMayBeInUse() {
+        Bench bench;
+        const FileLockHolder holder(bench.pin);
+        bench.Load(true);
+        QVERIFY(bench.Button("apply")->isEnabled());
+    }
+
+    void aHolderNamedLikeTheReplacementStopsApply() {
+        Bench bench;
+        const QString holder = bench.library.Make("a/better.tfmprt", {}, {{bench.pin, "derived"}});
+        const QString better = bench.library.Make("better.tfmprt");
+        bench.Load(true);
+        bench.Find();
+        bench.Type(better);
+        bench.dialogs.Expect(Format(Text::HolderIsReplacement, holder, better));
+        bench.Apply();
+        QVERIFY(bench.dialogs.AllCame());
+        QCOMPARE(bench.PathIn(bench.left), bench.pin);
+    }
+
+    void aReplacementThatIsNotThereIsRefused() {
+        Bench bench;
+        bench.Load(true);
+        // The walk ends at the replaced document's own name, and does not see that it is missing.
+        const QString missing = "/nowhere/pin.tfmprt";
+        bench.Type(missing);
+        bench.dialogs.Expect(Format(Text::TargetMissing, missing));
+        QTest::keyClick(bench.NewName(), Qt::Key_Return);
+        QVERIFY(bench.dialogs.AllCame());
+    }
+
+    void aDroppedReplacementIsCheckedToo() {
+        Bench bench;
+        bench.Load(true);
+        const QString good = bench.library.Make("lib/bolt.tfmprt");
+        DropFiles(bench.NewName(), {good, bench.right});
+        QCOMPARE(bench.NewName()->text(), good);
+        bench.dialogs.Expect(gStrings[216]);
+        DropFiles(bench.NewName(), {bench.right});
+        QVERIFY(bench.dialogs.AllCame());
+        QCOMPARE(bench.NewName()->text(), good);
+        QVERIFY(!bench.Button("apply")->isEnabled());
+    }
+
+    void aReplacedRootUpdatesItsRows() {
+        Bench bench;
+        const QString bolt = bench.library.Make("lib/bolt.tfmprt");
+        bench.dialogs.ExpectOpenFile(bolt);
+        bench.pane->SetPartName("pin", bench.pin, bench.pin, true);
+        bench.Find();
+        bench.Apply();
+        QCOMPARE(bench.PathIn(bench.left), bolt);
+        QCOMPARE(bench.PathIn(bench.right), bolt);
+        QCOMPARE(bench.status.caption, Format(Text::RenameDone, "2", "0"));
     }
 
     void replacingPointsTheHoldersAtTheOtherDocument() {

@@ -7,6 +7,7 @@
 #include "services/webdocument.h"
 #include "shell/locking.h"
 #include "tests/shell/shellbench.h"
+#include "tests/support/fakewebclient.h"
 #include "tests/support/testenvironment.h"
 
 using namespace docbench;
@@ -37,6 +38,8 @@ private Q_SLOTS:
     void thePathTellsWhetherTheDocumentIsInAWebFolder();
     void theWheelOverThePathBoxOpensNothing();
     void gettingThePartFileNameWritesItIntoThePathBox();
+    void anAddressWithAPasswordIsRefusedAndGoesNowhere_data();
+    void anAddressWithAPasswordIsRefusedAndGoesNowhere();
 };
 
 void TestWaysIn::openingLoadsTheTreeAndShowsThePaneAgain() {
@@ -269,6 +272,38 @@ void TestWaysIn::gettingThePartFileNameWritesItIntoThePathBox() {
     QCOMPARE(bench.PathBox()->currentText(), QString());
     QCOMPARE(bench.shell.partfilename(), QStringLiteral("/a.tfmprt"));
     QCOMPARE(bench.PathBox()->currentText(), QStringLiteral("/a.tfmprt"));
+}
+
+void TestWaysIn::anAddressWithAPasswordIsRefusedAndGoesNowhere_data() {
+    QTest::addColumn<QString>("way");
+    for (const char* way : {"typed", "picked from the list", "handed in by the host"})
+        QTest::newRow(way) << QString::fromLatin1(way);
+}
+
+void TestWaysIn::anAddressWithAPasswordIsRefusedAndGoesNowhere() {
+    QFETCH(QString, way);
+    Bench bench;
+    const FakeWeb web;
+    bench.Open();
+    const QString address = QStringLiteral("http://ann:secret@s/w/top.tfmasm");
+    bench.dialogs.Expect(QStringLiteral("Type the address without the password*"));
+    if (way == QLatin1String("typed")) {
+        bench.Type(address);
+    } else if (way == QLatin1String("handed in by the host")) {
+        bench.shell.OpenPath(address);
+    } else {
+        bench.PathBox()->addItem(address);
+        bench.PathBox()->showPopup();
+        QTest::keyClick(bench.PathBox()->view(), Qt::Key_End);
+        QTest::keyClick(bench.PathBox()->view(), Qt::Key_Return);
+    }
+    QVERIFY(bench.dialogs.AllCame());
+    QVERIFY(web.server.calls.isEmpty());
+    QCOMPARE(bench.shell.m_partfilename, bench.top);
+    QCOMPARE(bench.shell.Tree().Nodes().At(1).tag, bench.top);
+    QVERIFY(!gWebDocument);
+    QCOMPARE(bench.PathBox()->currentText(), QStringLiteral("http://s/w/top.tfmasm"));
+    QCOMPARE(bench.PathBox()->count(), way == QLatin1String("picked from the list") ? 2 : 1);
 }
 
 DOCBENCH_TEST_MAIN(QApplication, TestWaysIn)

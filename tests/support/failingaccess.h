@@ -102,8 +102,8 @@ public:
     void SetLockedBy(const QString& user) override {
         Run("SetLockedBy", [&] { real_->SetLockedBy(user); });
     }
-    QByteArray GetStamp() override {
-        return Run("GetStamp", [&] { return real_->GetStamp(); });
+    QByteArray GetStamp(PropertyGroup group) override {
+        return Run("GetStamp", [&] { return real_->GetStamp(group); });
     }
 
 private:

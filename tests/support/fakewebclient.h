@@ -37,7 +37,8 @@ struct FakeServer {
     QMap<QString, QByteArray> files;
     QStringList folders;  // addresses, with a "/" at their ends
     QStringList calls;
-    QStringList allowed;  // to be overwritten
+    QStringList allowed;     // to be overwritten
+    QStringList localMoves;  // "FROM TO"
     QString error = QStringLiteral("The server said no.");
     bool refusesUploads = false;
 };
@@ -92,6 +93,9 @@ public:
         return server_.files.contains(url) ? Presence::Present : Presence::Absent;
     }
     void AllowOverwrite(const QString& url) override { server_.allowed.append(url); }
+    void LocalFileMoved(const QString& from, const QString& to) override {
+        server_.localMoves.append(from + u' ' + to);
+    }
     QString LastError() const override { return server_.error; }
 
 private:

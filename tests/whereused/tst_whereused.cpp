@@ -132,6 +132,10 @@ private Q_SLOTS:
     void inputIsDisabledWhileASearchRuns();
     void aNewDocumentStopsTheSearch();
     void thePaneMayGoAwayDuringASearch();
+    void thePaneMayGoAwayDuringASearchByKey();
+    void aSearchByKeyTestsItsFoldersFirst();
+    void noSecondSearchBeginsDuringTheFirst();
+    void withoutANameThereIsNothingToFindAfterASearch();
     void aWebFolderIsMirroredAndItsAddressesListed();
     void aWebFolderThatFailsFindsNothing();
     void headersToggleShortAndLongForm();
@@ -402,6 +406,62 @@ void TestWhereUsed::aNewDocumentStopsTheSearch() {
     QCOMPARE(bench.access.folders.queries.size(), 1);
 }
 
+void TestWhereUsed::noSecondSearchBeginsDuringTheFirst() {
+    Bench bench;
+    bench.access.folders.subfolders = {{bench.root, {bench.root + "/a"}}};
+    bench.access.folders.onSearch = [&](const QString&) {
+        bench.pane->SetPartNameToSearch("/x/pin.tfmprt", "pin");
+        QVERIFY(!bench.Find()->isEnabled());
+        bench.pane->Findnow();
+    };
+    bench.Search();
+    QCOMPARE(bench.access.folders.queries.size(), 1);
+    QVERIFY(bench.Find()->isEnabled());
+}
+
+void TestWhereUsed::withoutANameThereIsNothingToFindAfterASearch() {
+    Bench bench;
+    bench.access.folders.onSearch = [&](const QString&) {
+        bench.pane->SetPartNameToSearch("", "");
+    };
+    bench.Search();
+    QVERIFY(bench.Name()->text().isEmpty());
+    QVERIFY(!bench.Find()->isEnabled());
+}
+
+void TestWhereUsed::aSearchByKeyTestsItsFoldersFirst() {
+    Bench bench;
+    bench.Name()->setText("gear");
+    bench.LookIn()->setFocus();
+    bench.LookIn()->setText("/nowhere");
+    bench.dialogs.Expect(Format(Text::FoldersNotFound, "/nowhere"));
+    QTest::keyClick(bench.LookIn(), Qt::Key_Return);
+    QCoreApplication::processEvents();
+    QVERIFY(bench.dialogs.AllCame());
+    QVERIFY(bench.access.folders.queries.isEmpty());
+    QVERIFY(bench.Name()->isEnabled() && bench.LookIn()->isEnabled());
+    QVERIFY(!bench.Stop()->isEnabled());
+    bench.LookIn()->setFocus();
+    bench.LookIn()->setText(bench.root);
+    QTest::keyClick(bench.LookIn(), Qt::Key_Return);
+    QTRY_COMPARE(bench.access.folders.queries.size(), 1);
+}
+
+void TestWhereUsed::thePaneMayGoAwayDuringASearchByKey() {
+    Bench bench;
+    bench.access.folders.subfolders = {{bench.root, {bench.root + "/a"}}};
+    bench.access.folders.onSearch = [&](const QString&) {
+        bench.pane->ReleaseAll();
+        QMetaObject::invokeMethod(
+            qApp, [&] { bench.pane.reset(); }, Qt::QueuedConnection);
+    };
+    bench.LookIn()->setText(bench.root);
+    bench.Name()->setText("gear");
+    QTest::keyClick(bench.Name(), Qt::Key_Return);
+    QTRY_VERIFY(!bench.pane);
+    QCOMPARE(bench.access.folders.queries.size(), 1);
+}
+
 void TestWhereUsed::thePaneMayGoAwayDuringASearch() {
     Bench bench;
     bench.access.folders.subfolders = {{bench.root, {bench.root + "/a"}}};
@@ -425,10 +485,14 @@ void TestWhereUsed::aWebFolderIsMirroredAndItsAddressesListed() {
     const QString mirror = QDir::cleanPath(gTempFolder + "tessaformadocbench");
     bench.Add(mirror, mirror + "/top.tfmasm", mirror + "/gear.tfmprt");
     bench.Add(mirror, mirror + "/top.tfmasm", mirror + "/gear.tfmprt");
+    bench.Add(mirror, mirror + "/derived.tfmprt", mirror + "/gear.tfmprt", true);
     bench.LookIn()->setText("http://s/w/");
+    bench.Box("wifindMirrored")
+        ->click();  // a prefixed relation is of no kind that could be left out
     bench.Search();
     QVERIFY(gWebDocument);
-    QCOMPARE(bench.List()->List().Count(), 2);  // a prefixed relation equals none that is listed
+    QCOMPARE(bench.List()->List().Count(), 3);  // a prefixed relation equals none that is listed
+    QCOMPARE(bench.Row(2).cells[1].text, gRelationPart);
     QCOMPARE(bench.Row(0).tag, QString("http://s/w/top.tfmasm"));
     QCOMPARE(bench.Row(0).cells[1].text, gRelationDefault);
     QCOMPARE(bench.Row(0).cells[2].tag, QString("http://s/w/gear.tfmprt"));
@@ -469,8 +533,9 @@ void TestWhereUsed::rowsFollowTheFormOfTheirColumn() {
     Q_EMIT bench.List()->header()->sectionClicked(2);
     bench.Add(bench.root, "/w/top.tfmasm", "/w/gear.tfmprt");
     bench.Add(bench.root, "/x/top.tfmasm", "/w/gear.tfmprt");
+    bench.Add(bench.root, "/w/top.tfmasm", "/x/gear.tfmprt");
     bench.Search();
-    QCOMPARE(bench.List()->List().Count(), 2);  // compared by their paths
+    QCOMPARE(bench.List()->List().Count(), 3);  // compared by their paths
     QCOMPARE(bench.Row(0).cells[0].text, QString("top.tfmasm"));
     QCOMPARE(bench.Row(0).cells[2].text, QString("gear.tfmprt"));
 }
@@ -564,7 +629,9 @@ void TestWhereUsed::newSearchEmptiesThePane() {
 void TestWhereUsed::theMenuOpensByTagAndADoubleClickByText() {
     Bench bench;
     FakeOutside outside;
+    FakeShellExecute files;
     bench.Add(bench.root, "/w/top.tfmasm", "/w/gear.tfmprt");
+    bench.Add(bench.root, "/w/note.txt", "/w/gear.tfmprt");
     bench.Search();
     auto* menu = bench.Child<QMenu>("mnlist");
     auto* open = bench.Child<QAction>("mnopen");
@@ -576,9 +643,11 @@ void TestWhereUsed::theMenuOpensByTagAndADoubleClickByText() {
     bench.List()->SelectRow(0);
     open->trigger();
     QCOMPARE(outside.asked.count("Tessacad.Application"), 1);
+    bench.List()->SelectRow(1);  // what no CAD program opens shows which text was handed on
     Q_EMIT bench.List()->header()->sectionClicked(0);
-    Q_EMIT bench.List()->Activated(0);
-    QCOMPARE(outside.asked.count("Tessacad.Application"), 2);
+    open->trigger();
+    Q_EMIT bench.List()->Activated(1);
+    QCOMPARE(files.started, QStringList({"/w/note.txt", "note.txt"}));
     bench.List()->List().Clear();
     Q_EMIT bench.List()->MenuRequested(QPoint());
     QVERIFY(!open->isEnabled());

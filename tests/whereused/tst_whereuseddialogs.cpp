@@ -73,7 +73,7 @@ private Q_SLOTS:
             SearchDialog form(scope);
             form.init("/w", false, true, true, true);
             form.show();
-        QVERIFY(QTest::qWaitForWindowActive(&form));
+            QVERIFY(QTest::qWaitForWindowActive(&form));
             if (escape)
                 QTest::keyClick(&form, Qt::Key_Escape);
             else

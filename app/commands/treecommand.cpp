@@ -1,9 +1,10 @@
-#include "app/treecommand.h"
+#include "app/commands/treecommand.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTextStream>
 
+#include "app/commands/console.h"
 #include "app/exitcodes.h"
 #include "services/docaccess.h"
 #include "services/language.h"
@@ -62,6 +63,11 @@ void PrintText(const CellNodes& nodes, QTextStream& out) {
     }
 }
 
+void PrintPaths(const CellNodes& nodes, QTextStream& out) {
+    for (int i = 1; i <= nodes.Count(); ++i)
+        out << nodes.At(i).tag << QChar(u'\0');
+}
+
 QString JsonText(const QString& text) {
     const QByteArray list = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
     return QString::fromUtf8(list.mid(1, list.size() - 2));
@@ -75,6 +81,7 @@ QString JsonBool(bool value) {
 // document of it in memory should be.
 void PrintJson(const CellNodes& nodes, QTextStream& out) {
     const std::vector<int> depths = Depths(nodes);
+    out << "{\"version\": 1, \"command\": \"tree\", \"tree\": ";
     int open = 0;  // nodes whose list of children is not closed yet
     for (int i = 1; i <= nodes.Count(); ++i) {
         const CellNode& node = nodes.At(i);
@@ -94,30 +101,33 @@ void PrintJson(const CellNodes& nodes, QTextStream& out) {
     }
     for (; open > 0; --open)
         out << "]}";
-    out << '\n';
+    out << "}\n";
 }
 
 }  // namespace
 
-int PrintTree(const QString& path, TreeFormat format) {
+QString TreeCommand::Help() const {
+    return QStringLiteral(
+        "One line a reference, two blanks a level, with the document's path. Missing, circular and "
+        "locked documents are marked.\n\n"
+        "  docbench tree gearbox.tfmasm\n");
+}
+
+int TreeCommand::Run(const QCommandLineParser& line, Console& console) const {
+    const QString path = DocumentPath(line.positionalArguments().first());
     ReferenceTree tree;
     if (!tree.Load(path)) {
-        QTextStream err(stderr);
-        err << Format(Text::DocumentNotFound, path) << '\n';
+        console.Warn(Format(Text::DocumentNotFound, path));
         if (IsWebPath(path) && gWebFolder)
-            err << gWebFolder->LastError() << '\n';
+            console.Warn(gWebFolder->LastError());
         return kExitNoDocument;
     }
-    QTextStream out(stdout);
-    if (format == TreeFormat::Json)
-        PrintJson(tree.Nodes(), out);
+    if (console.IsJson())
+        PrintJson(tree.Nodes(), console.Out());
+    else if (console.IsNull())
+        PrintPaths(tree.Nodes(), console.Out());
     else
-        PrintText(tree.Nodes(), out);
-    out.flush();
-    if (out.status() != QTextStream::Ok) {
-        QTextStream(stderr) << "The tree can't be written to the output.\n";
-        return kExitPartly;
-    }
+        PrintText(tree.Nodes(), console.Out());
     return tree.HadErrors() ? kExitPartly : kExitDone;
 }
 

@@ -1,0 +1,130 @@
+#include "app/commands/commandset.h"
+
+#include <QTextStream>
+
+#include "app/commands/console.h"
+#include "app/commands/listcommand.h"
+#include "app/commands/lockcommand.h"
+#include "app/commands/referencescommand.h"
+#include "app/commands/renamecommand.h"
+#include "app/commands/treecommand.h"
+#include "app/commands/whereusedcommand.h"
+#include "app/consoledialogs.h"
+#include "app/exitcodes.h"
+#include "services/docaccess.h"
+#include "services/documentlibrary.h"
+#include "services/errorstate.h"
+#include "services/language.h"
+#include "services/scratch.h"
+#include "services/seams.h"
+#include "services/webcopies.h"
+
+namespace docbench {
+
+namespace {
+
+const QString kHelpOption = QStringLiteral("help");
+const QString kJsonOption = QStringLiteral("json");
+const QString kNullOption = QStringLiteral("null");
+
+void PrepareParser(const Command& command, QCommandLineParser& parser) {
+    parser.addOptions(
+        {{{QStringLiteral("h"), kHelpOption}, QStringLiteral("Shows this text.")},
+         {kJsonOption, QStringLiteral("Prints JSON.")},
+         {{QStringLiteral("0"), kNullOption},
+          QStringLiteral("Prints documents alone, each with a NUL behind it: for xargs -0.")}});
+    command.AddOptions(parser);
+}
+
+int WrongUsage(const Command& command, const QString& message) {
+    QTextStream(stderr) << message << "\nTry docbench " << command.Name() << " --help.\n";
+    return kExitUsage;
+}
+
+int RunWithSeams(const Command& command, const QCommandLineParser& parser) {
+    ConsoleDialogs dialogs(parser.positionalArguments().value(0));  // the document
+    gSeams.dialogs = &dialogs;
+    DocumentLibrary library;
+    gSeams.documents = library.Access();
+    LoadResources();
+    PrepareScratch();
+    UseWebFolders();
+    int result = kExitPartly;
+    {
+        Console console(command.Name(), parser.isSet(kJsonOption)   ? Console::Format::Json
+                                        : parser.isSet(kNullOption) ? Console::Format::Null
+                                                                    : Console::Format::Text);
+        try {
+            result = command.Run(parser, console);
+        } catch (const std::exception& error) {
+            console.Warn(DescriptionOf(error));
+        }
+        if (!console.Finish())
+            result = kExitPartly;
+    }
+    DeleteScratch();
+    return result;
+}
+
+}  // namespace
+
+const std::vector<std::unique_ptr<Command>>& AllCommands() {
+    static const auto commands = [] {
+        std::vector<std::unique_ptr<Command>> all;
+        all.push_back(std::make_unique<TreeCommand>());
+        all.push_back(std::make_unique<ReferencesCommand>());
+        all.push_back(std::make_unique<WhereUsedCommand>());
+        all.push_back(std::make_unique<RenameCommand>(RenameCommand::Does::Rename));
+        all.push_back(std::make_unique<RenameCommand>(RenameCommand::Does::Replace));
+        all.push_back(std::make_unique<ContentsCommand>(ContentsCommand::Lists::Configurations));
+        all.push_back(std::make_unique<ContentsCommand>(ContentsCommand::Lists::Hyperlinks));
+        all.push_back(std::make_unique<LockCommand>(LockCommand::Does::Lock));
+        all.push_back(std::make_unique<LockCommand>(LockCommand::Does::Unlock));
+        all.push_back(std::make_unique<ListCommand>());
+        return all;
+    }();
+    return commands;
+}
+
+const Command* FindCommand(const QString& name) {
+    for (const auto& command : AllCommands()) {
+        if (command->Name() == name)
+            return command.get();
+    }
+    return nullptr;
+}
+
+QString HelpOf(const Command& command) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(Wrapped(command.Help()) + u'\n');
+    PrepareParser(command, parser);
+    // The toolkit's words know of no commands: its first line, "Usage: ...", is put right.
+    QString text = parser.helpText();
+    return QStringLiteral("Usage: docbench %1 [options] %2\n")
+               .arg(command.Name(), command.Arguments()) +
+           text.mid(text.indexOf(u'\n') + 1);
+}
+
+int RunCommand(const Command& command, const QStringList& words) {
+    QCommandLineParser parser;
+    PrepareParser(command, parser);
+    if (!parser.parse(QStringList{QStringLiteral("docbench")} + words))
+        return WrongUsage(command, parser.errorText());
+    if (parser.isSet(kHelpOption)) {
+        QTextStream(stdout) << HelpOf(command);
+        return kExitDone;
+    }
+    const qsizetype count = parser.positionalArguments().size();
+    if (count < command.FewestWords() || count > command.MostWords())
+        return WrongUsage(
+            command,
+            QStringLiteral("The command %1 takes %2.").arg(command.Name(), command.Arguments()));
+    QStringList given = parser.positionalArguments();
+    for (const QString& option : parser.optionNames())
+        given += parser.values(option);
+    if (const QString problem = PasswordProblem(given); !problem.isEmpty())
+        return WrongUsage(command, problem);
+    return RunWithSeams(command, parser);
+}
+
+}  // namespace docbench

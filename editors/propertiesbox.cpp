@@ -1,0 +1,401 @@
+#include "editors/propertiesbox.h"
+
+#include <QSignalBlocker>
+#include <limits>
+
+#include "editors/propertyrows.h"
+#include "frame/desccontrol.h"
+#include "services/dialogs.h"
+#include "services/docaccess.h"
+#include "services/documentlibrary.h"
+#include "services/errorstate.h"
+#include "services/language.h"
+#include "services/seams.h"
+#include "services/texts.h"
+#include "services/webcopies.h"
+#include "shell/languagefonts.h"
+#include "shell/picturestore.h"
+#include "ui_propertiesbox.h"
+
+namespace docbench {
+namespace {
+
+enum Tab { kSummaryTab = 0, kCustomTab = 1, kConfigurationTab = 2 };
+
+void Warn(const QString& text) {
+    gSeams.dialogs->Box(text, Dialogs::Icon::Exclamation, gAppTitle);
+}
+
+void SetFieldName(QWidget* field, int index) {
+    field->setObjectName(QStringLiteral("Summary(%1)").arg(index));
+}
+
+// Raises when the properties are no longer those that the pane has read.
+void RequireUnchanged(DocumentInfo& info, PropertyGroup group, const QByteArray& loaded,
+                      const QString& path) {
+    if (info.GetStamp(group) != loaded)
+        throw DocumentError(QStringLiteral("The properties of %1 were changed by another program "
+                                           "since they were loaded. Load them again and repeat "
+                                           "your changes.")
+                                .arg(path));
+}
+
+}  // namespace
+
+PropertiesBox::PropertiesBox(QWidget* parent)
+    : Pane(parent), ui_(std::make_unique<Ui::PropertiesBox>()) {
+    LoadResources();
+    ui_->setupUi(this);
+    SetFieldName(ui_->Summary_0, 0);
+    SetFieldName(ui_->Summary_1, 1);
+    SetFieldName(ui_->Summary_2, 2);
+    SetFieldName(ui_->Summary_5, 5);
+    SetFieldName(ui_->Summary_6, 6);
+    for (QLineEdit* field : {ui_->Summary_0, ui_->Summary_1, ui_->Summary_2, ui_->Summary_5})
+        field->setMaxLength(std::numeric_limits<int>::max());
+    ui_->configSet->SetIndex(1);
+    ui_->customSet->SetIndex(2);
+    ui_->configSet->setEnabled(false);
+    ui_->ApplyButton->setEnabled(false);
+    ui_->resetbutton->setEnabled(false);
+    SetCaptions();
+    ApplyLanguageFonts(*this);
+    ConnectControls();
+}
+
+PropertiesBox::~PropertiesBox() = default;
+
+void PropertiesBox::SetCaptions() {
+    const std::pair<QLabel*, TextId<0>> labels[] = {{ui_->labSummary_0, Text::Title},
+                                                    {ui_->labSummary_1, Text::Subject},
+                                                    {ui_->labSummary_2, Text::Author},
+                                                    {ui_->labSummary_5, Text::Keywords},
+                                                    {ui_->labSummary_6, Text::Comments},
+                                                    {ui_->labCreatedCaption, Text::Created},
+                                                    {ui_->labLastSavedbyCaption, Text::LastSavedBy},
+                                                    {ui_->labLastsavedCaption, Text::LastSaved},
+                                                    {ui_->labLockedByCaption, Text::LockedBy}};
+    for (const auto& [label, text] : labels)
+        label->setText(Tr(text));
+    ui_->labList1->setText(Tr(Text::Configuration));
+    ui_->TabStrip1->setTabText(kSummaryTab, Tr(Text::SummaryTab));
+    ui_->TabStrip1->setTabText(kCustomTab, Tr(Text::CustomTab));
+    ui_->TabStrip1->setTabText(kConfigurationTab, Tr(Text::ConfigurationTab));
+    ui_->TabStrip1->setCurrentIndex(kSummaryTab);
+    ui_->ApplyButton->setText(Tr(Text::SaveChanges));
+    ui_->resetbutton->setText(Tr(Text::Reset));
+    ui_->DescControl1->text(Tr(Text::PropertiesHelp));
+    ui_->DescControl1->icon(PictureOf(QStringLiteral("PROP")));
+    ui_->DescControl1->SetHelpFile(gHelpFile, HelpTopic());
+}
+
+void PropertiesBox::ConnectControls() {
+    for (QLineEdit* field : {ui_->Summary_0, ui_->Summary_1, ui_->Summary_2, ui_->Summary_5})
+        connect(field, &QLineEdit::textChanged, this, &PropertiesBox::OnSummaryChanged);
+    connect(ui_->Summary_6, &QPlainTextEdit::textChanged, this, &PropertiesBox::OnSummaryChanged);
+    connect(ui_->customSet, &PropertySetBox::Removed, this,
+            [this](const QString& name) { deletedCustomNames.append(name); });
+    connect(ui_->customSet, &PropertySetBox::Edited, this, [this] {
+        customDirty = true;
+        EnableButtons();
+    });
+    connect(ui_->configSet, &PropertySetBox::Removed, this,
+            [this](const QString& name) { deletedConfigNames.append(name); });
+    connect(ui_->configSet, &PropertySetBox::Edited, this, [this] {
+        configDirty = true;
+        EnableButtons();
+    });
+    // The selection and not the current item, which the list gets with the focus alone.
+    connect(ui_->List1, &QListWidget::itemSelectionChanged, this,
+            &PropertiesBox::OnConfigurationPicked);
+    connect(ui_->TabStrip1, &QTabWidget::currentChanged, this, &PropertiesBox::OnTabChanged);
+    connect(ui_->ApplyButton, &QPushButton::clicked, this, &PropertiesBox::Apply);
+    connect(ui_->resetbutton, &QPushButton::clicked, this, [this] {
+        populateSummary(partfilename);
+        FocusByTab();
+    });
+}
+
+void PropertiesBox::SetShowDesc(bool show) {
+    showDesc_ = show;
+    ui_->DescControl1->setVisible(show);
+}
+
+QString PropertiesBox::HelpTopic() const {
+    switch (ui_->TabStrip1->currentIndex()) {
+        case kCustomTab:
+            return QStringLiteral("properties#custom");
+        case kConfigurationTab:
+            return QStringLiteral("properties#configuration");
+        default:
+            return QStringLiteral("properties#summary");
+    }
+}
+
+void PropertiesBox::OnTabChanged() {
+    ui_->DescControl1->SetHelpFile(gHelpFile, HelpTopic());
+    FocusByTab();
+}
+
+void PropertiesBox::FocusByTab() {
+    switch (ui_->TabStrip1->currentIndex()) {
+        case kCustomTab:
+            return ui_->customSet->FocusName();
+        case kConfigurationTab:
+            return ui_->List1->setFocus();
+        default:
+            return ui_->Summary_2->setFocus();
+    }
+}
+
+void PropertiesBox::EnableButtons() {
+    if (!populated)
+        return;
+    ui_->ApplyButton->setEnabled(true);
+    ui_->resetbutton->setEnabled(true);
+}
+
+void PropertiesBox::OnSummaryChanged() {
+    summaryDirty = true;
+    EnableButtons();
+}
+
+void PropertiesBox::SetPartName(const QString& displayName, const QString& path) {
+    if (path.isEmpty())
+        return;
+    partDisplayName = displayName;
+    ErrorState errors;
+    if (!errors.Run([&] { populateSummary(path); }))
+        Warn(Format(Text::PropertiesShowError, errors.Description()));
+}
+
+void PropertiesBox::populateSummary(const QString& path) {
+    ErrorState errors;
+    if (!errors.Run([&] { Load(path); }))
+        Warn(Format(Text::PropertiesLoadError, errors.Description()));
+}
+
+void PropertiesBox::Load(const QString& path) {
+    partfilename = path;
+    Blank();
+    const auto info = Documents().MakeDocumentInfo();
+    if (!info->Open(LocalCopyOf(path))) {
+        Warn(Tr(Text::NoProperties));
+        return SetStatusText(Format(Text::NoPropertiesOf, path));
+    }
+    FillSummary(*info);
+    LoadPropertyRows(ui_->customSet->List(), *info);
+    customStamp_ = info->GetStamp(PropertyGroup::Custom);
+    ui_->customSet->FitColumns();
+    ListConfigurations();
+    populated = true;
+    SetStatusText(Format(Text::PropertiesOf, path));
+}
+
+// The rows of the former configuration stay in sight until one is picked, but can't be changed.
+void PropertiesBox::Blank() {
+    populated = false;
+    ui_->ApplyButton->setEnabled(false);
+    ui_->resetbutton->setEnabled(false);
+    for (QLineEdit* field : {ui_->Summary_0, ui_->Summary_1, ui_->Summary_2, ui_->Summary_5})
+        field->clear();
+    ui_->Summary_6->clear();
+    for (QLabel* fact : {ui_->labCreated, ui_->labLastSavedby, ui_->labLastsaved, ui_->labLockedBy})
+        fact->clear();
+    ui_->customSet->List().Clear();
+    ui_->customSet->ClearInput();
+    deletedCustomNames.clear();
+    const QSignalBlocker blocker(ui_->List1);
+    ui_->List1->clear();
+    currentConfiguration = -1;
+    ui_->configSet->ClearInput();
+    ui_->configSet->setEnabled(false);
+    deletedConfigNames.clear();
+    summaryDirty = customDirty = configDirty = false;
+}
+
+void PropertiesBox::FillSummary(DocumentInfo& info) {
+    ui_->Summary_0->setText(ReadSummaryField(info, SummaryField::Title));
+    ui_->Summary_2->setText(ReadSummaryField(info, SummaryField::Author));
+    ui_->Summary_1->setText(ReadSummaryField(info, SummaryField::Subject));
+    ui_->Summary_5->setText(ReadSummaryField(info, SummaryField::Keywords));
+    ui_->Summary_6->setPlainText(ReadSummaryField(info, SummaryField::Comments));
+    ui_->labCreated->setText(info.GetCreated());
+    ui_->labLockedBy->setText(info.GetLocked() ? info.GetLockedBy() : Tr(Text::NotLocked));
+    ShowLastSave(info);
+    summaryStamp_ = info.GetStamp(PropertyGroup::Summary);
+    for (int field = 0; field < kSummaryFields; ++field)
+        untouched_[size_t(field)] = TextOf(SummaryField(field));
+}
+
+void PropertiesBox::ShowLastSave(DocumentInfo& info) {
+    ui_->labLastSavedby->setText(info.GetLastSavedBy());
+    ui_->labLastsaved->setText(info.GetLastSaved());
+}
+
+void PropertiesBox::ListConfigurations() {
+    const auto file = Documents().MakeDocumentFile();
+    file->Open(LocalCopyOf(partfilename));
+    const QSignalBlocker blocker(ui_->List1);
+    const int count = file->GetConfigurationCount();
+    for (int index = 0; index < count; ++index)
+        ui_->List1->addItem(file->GetConfiguration(index));
+}
+
+int PropertiesBox::PickedConfiguration() const {
+    const QList<QListWidgetItem*> picked = ui_->List1->selectedItems();
+    return picked.isEmpty() ? -1 : ui_->List1->row(picked.first());
+}
+
+void PropertiesBox::OnConfigurationPicked() {
+    const int index = PickedConfiguration();
+    if (index < 0 || index == currentConfiguration)
+        return;
+    if (currentConfiguration >= 0 && configDirty && !LeaveConfiguration()) {
+        const QSignalBlocker blocker(ui_->List1);
+        ui_->List1->setCurrentRow(currentConfiguration);
+        return;
+    }
+    currentConfiguration = index;
+    ui_->configSet->setEnabled(false);
+    ErrorState errors;
+    if (!errors.Run([&] { ShowConfiguration(index); }))
+        Warn(Format(Text::ConfigurationPropertiesError, errors.Description()));
+}
+
+// False when the edits could not be written: they stay with their configuration.
+bool PropertiesBox::LeaveConfiguration() {
+    const Dialogs::Answer answer = gSeams.dialogs->Box(
+        Tr(Text::LeaveConfiguration), Dialogs::Icon::None, gAppTitle, Dialogs::Buttons::YesNo);
+    if (answer != Dialogs::Answer::Yes) {
+        configDirty = false;
+        return true;
+    }
+    bool written = false;
+    ErrorState errors;
+    if (!errors.Run([&] { written = WriteConfiguration(currentConfiguration); }))
+        Warn(Format(Text::PropertiesWriteError, errors.Description()));
+    return written;
+}
+
+// The set of a configuration by its position; null when it has none. Raises when another one
+// stands there now.
+std::unique_ptr<DocumentInfo> PropertiesBox::OpenConfiguration(int index) const {
+    const auto file = Documents().MakeDocumentFile();
+    file->Open(LocalCopyOf(partfilename));
+    std::unique_ptr<DocumentInfo> set = file->GetCustomProperties(index);
+    if (set && file->GetConfiguration(index) != ui_->List1->item(index)->text())
+        throw DocumentError(QStringLiteral("The configurations of %1 were changed since they were "
+                                           "listed. Load the document again.")
+                                .arg(partfilename));
+    return set;
+}
+
+void PropertiesBox::ShowConfiguration(int index) {
+    const auto set = OpenConfiguration(index);
+    if (!set)
+        return Warn(Tr(Text::NoConfigurationProperties));
+    LoadPropertyRows(ui_->configSet->List(), *set);
+    configStamp_ = set->GetStamp(PropertyGroup::Custom);
+    configDirty = false;
+    deletedConfigNames.clear();
+    ui_->configSet->ClearInput();
+    ui_->configSet->FitColumns();
+    ui_->configSet->setEnabled(true);
+}
+
+void PropertiesBox::Apply() {
+    if (!populated)
+        return;
+    ErrorState errors;
+    if (!errors.Run([this] { WriteEdits(); }))
+        Warn(Format(Text::PropertiesWriteError, errors.Description()));
+}
+
+void PropertiesBox::WriteEdits() {
+    const int configuration = PickedConfiguration();
+    if (configDirty && configuration >= 0 && !WriteConfiguration(configuration))
+        return;
+    if (summaryDirty || customDirty)
+        WriteDocument();
+}
+
+// The flags are cleared when all is on the disk, so that whatever fails can be tried again. False
+// when the server has not taken the document, which the upload has told.
+bool PropertiesBox::WriteConfiguration(int index) {
+    const auto set = OpenConfiguration(index);
+    if (!set)
+        throw DocumentError(QStringLiteral("The configuration %1 is no longer in %2. Load the "
+                                           "document again.")
+                                .arg(ui_->List1->item(index)->text(), partfilename));
+    RequireUnchanged(*set, PropertyGroup::Custom, configStamp_, partfilename);
+    WriteProperties(ui_->configSet->List(), *set, deletedConfigNames);
+    set->Save();
+    configStamp_ = set->GetStamp(PropertyGroup::Custom);
+    deletedConfigNames.clear();
+    if (!UploadIfWeb(partfilename))
+        return false;
+    configDirty = false;
+    return true;
+}
+
+void PropertiesBox::WriteDocument() {
+    const auto info = Documents().MakeDocumentInfo();
+    if (!info->Open(LocalCopyOf(partfilename)))
+        return Warn(Format(Text::PropertiesNotOpened, partfilename));
+    const SummaryEdits typed = TypedSummary();
+    if (HasEdits(typed))
+        RequireUnchanged(*info, PropertyGroup::Summary, summaryStamp_, partfilename);
+    if (customDirty)
+        RequireUnchanged(*info, PropertyGroup::Custom, customStamp_, partfilename);
+    if (summaryDirty)
+        WriteSummary(*info, typed);
+    if (customDirty)
+        WriteProperties(ui_->customSet->List(), *info, deletedCustomNames);
+    info->Save();
+    TakeAsRead(*info, HasEdits(typed));
+    if (!UploadIfWeb(partfilename))
+        return;
+    summaryDirty = customDirty = false;
+    ShowLastSave(*info);
+}
+
+// What was not written keeps its stamp: the pane still shows it as it was read.
+void PropertiesBox::TakeAsRead(DocumentInfo& saved, bool summaryTyped) {
+    if (summaryTyped)
+        summaryStamp_ = saved.GetStamp(PropertyGroup::Summary);
+    if (customDirty)
+        customStamp_ = saved.GetStamp(PropertyGroup::Custom);
+    for (int field = 0; field < kSummaryFields; ++field)
+        untouched_[size_t(field)] = TextOf(SummaryField(field));
+    deletedCustomNames.clear();
+}
+
+SummaryEdits PropertiesBox::TypedSummary() const {
+    SummaryEdits typed;
+    for (size_t field = 0; field < kSummaryFields; ++field) {
+        const QString text = TextOf(SummaryField(field));
+        if (text != untouched_[field])
+            typed[field] = text;
+    }
+    return typed;
+}
+
+QString PropertiesBox::TextOf(SummaryField field) const {
+    switch (field) {
+        case SummaryField::Title:
+            return ui_->Summary_0->text();
+        case SummaryField::Subject:
+            return ui_->Summary_1->text();
+        case SummaryField::Author:
+            return ui_->Summary_2->text();
+        case SummaryField::Keywords:
+            return ui_->Summary_5->text();
+        case SummaryField::Comments:
+            break;
+    }
+    // Not as plain text, which would turn every no-break space into a common one.
+    return ui_->Summary_6->document()->toRawText().replace(QChar::ParagraphSeparator, u'\n');
+}
+
+}  // namespace docbench

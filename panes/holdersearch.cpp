@@ -1,0 +1,110 @@
+#include "panes/holdersearch.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QHash>
+
+#include "panes/folderwalk.h"
+#include "services/documentlibrary.h"
+#include "services/errorstate.h"
+#include "services/folderlists.h"
+#include "services/language.h"
+#include "services/paths.h"
+#include "services/relationlabel.h"
+#include "services/texts.h"
+#include "services/webcopies.h"
+#include "services/webdocument.h"
+
+namespace docbench {
+namespace {
+
+class Walk {
+public:
+    explicit Walk(const HolderSearch& search)
+        : search_(search), finder_(Documents().MakeFolderSearcher()) {}
+
+    void SearchFolders(const QString& folder, bool deep);
+
+private:
+    QStringList Visit(const QString& folder, bool deep);
+    void SearchFolder(const QString& folder);
+    void Take(const FoundReference& found);
+
+    const HolderSearch& search_;
+    std::unique_ptr<FolderSearcher> finder_;
+    QHash<QString, QString> urls_;  // of the local copies
+};
+
+void Walk::SearchFolders(const QString& folder, bool deep) {
+    const FolderWalk walk{.yields = WalkYields::AtFolders,
+                          .yield = search_.yield,
+                          .stopped = search_.cancelled,
+                          .entering =
+                              [this](const QString& entered) {
+                                  search_.status(Format(Text::SearchingHolders, entered));
+                              },
+                          .visit = [&](const QString& visited) { return Visit(visited, deep); }};
+    walk.Run(folder);
+}
+
+QStringList Walk::Visit(const QString& folder, bool deep) {
+    ErrorState passedOver;
+    if (search_.onFailure == HolderSearch::OnFailure::Raises)
+        SearchFolder(folder);
+    else
+        passedOver.Run([&] { SearchFolder(folder); });
+    QStringList below;
+    for (int i = 0; deep && i < finder_->GetSubfolderCount(); ++i)
+        below.append(finder_->GetSubfolder(i));
+    finder_->ClearResults();
+    return below;
+}
+
+void Walk::SearchFolder(const QString& folder) {
+    finder_->ClearResults();
+    if (gWebDocument || IsWebPath(search_.document))
+        urls_ = UrlsOfCopies();
+    finder_->FindReferences({.pattern = folder + QStringLiteral("/*.*"),
+                             .fullPathFlag = 0,
+                             .baseName = BaseNameOf(search_.document),
+                             .extension = ExtensionOf(search_.document),
+                             .fullPath = QString(),
+                             .mask = search_.kinds.Mask()});
+    const int count = finder_->GetResultCount();
+    for (int i = 0; i < count; ++i)
+        Take(finder_->GetResult(i));
+    search_.progress(finder_->GetSearchCounts());
+}
+
+void Walk::Take(const FoundReference& found) {
+    const QString holder = urls_.value(QDir::cleanPath(found.document), found.document);
+    const QString relation = RelationLabel(holder, search_.document);
+    if (!search_.kinds.Drops(relation))
+        search_.take(found, holder, relation);
+}
+
+}  // namespace
+
+bool HolderSearch::Run(const QString& folders) const {
+    const QString expanded = ExpandFolderList(folders);
+    QStringList entries = expanded.split(u';', Qt::SkipEmptyParts);
+    if (entries.isEmpty())
+        return false;
+    entries = RemoveDuplicates(entries);
+    Walk walk(*this);
+    for (const QString& entry : entries) {
+        if (cancelled())
+            break;
+        QString mirror;
+        if (!IsWebPath(expanded)) {
+            if (QFileInfo(entry).isDir())
+                walk.SearchFolders(QDir::cleanPath(QFileInfo(entry).absoluteFilePath()),
+                                   subfolders);
+        } else if (MirrorWebFolder(mirrors == Mirrors::EachEntry ? entry : expanded, mirror)) {
+            walk.SearchFolders(FolderNoSeparator(mirror), false);
+        }
+    }
+    return true;
+}
+
+}  // namespace docbench
