@@ -3,10 +3,12 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDirIterator>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTabWidget>
 #include <QTextStream>
 #include <functional>
@@ -19,10 +21,12 @@
 #include "frame/maincontrol.h"
 #include "platform/desktopseams.h"
 #include "rename/renameref.h"
+#include "search/searchrules.h"
 #include "services/folderlists.h"
 #include "services/helpviewer.h"
 #include "services/language.h"
 #include "services/seams.h"
+#include "services/texts.h"
 #include "setup/folderlisteditor.h"
 #include "shell/previewpane.h"
 #include "shell/usercontrol1.h"
@@ -74,6 +78,24 @@ QWidget* WhereUsedOfAScrew(Stage& stage) {
     auto* pane = stage.Find<whereUsed>("whereUsed");
     pane->SetPartNameToSearch(stage.library.filePath(QStringLiteral("hex screw M6.tfmprt")), {});
     pane->Findnow();
+    return &stage.frame;
+}
+
+QWidget* SearchByProperties(Stage& stage) {
+    stage.frame.SetCurrentFunction(QStringLiteral("SEARCH"));
+    const auto add = [&stage](const QString& property, int code, const QString& value) {
+        stage.Find<QLineEdit>("srcValue")->clear();
+        stage.Find<QComboBox>("srcName")->setEditText(property);
+        stage.Find<QComboBox>("srcOP")->setCurrentIndex(code);
+        stage.Find<QLineEdit>("srcValue")->setText(value);
+        stage.Find<QPushButton>("srcAddToList")->click();
+    };
+    add(QStringLiteral("Material"), kContains, QStringLiteral("steel"));
+    add(QStringLiteral("Mass"), kLess, QString::number(1));
+    stage.Find<QRadioButton>("srcOR")->click();
+    add(Tr(Text::Title), kContains, QStringLiteral("gear"));
+    stage.Find<QCheckBox>("srcRecursive")->click();
+    stage.Find<QPushButton>("srcStart")->click();
     return &stage.frame;
 }
 
@@ -184,6 +206,7 @@ const std::vector<std::pair<QString, Scene>>& Scenes() {
         {QStringLiteral("about"), About},
         {QStringLiteral("help"), Help},
         {QStringLiteral("where-used"), WhereUsedOfAScrew},
+        {QStringLiteral("search"), SearchByProperties},
         {QStringLiteral("rename"), RenamingAPlate(false)},
         {QStringLiteral("replace"), RenamingAPlate(true)},
         {QStringLiteral("setup"), Setup},

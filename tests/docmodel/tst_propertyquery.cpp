@@ -401,6 +401,35 @@ private Q_SLOTS:
         QVERIFY(!Holds(Path("bare.tfmprt"), "Title", Contains, "x"));
     }
 
+    // Relationships are remembered from one document to the next.
+    void EachDocumentIsReadByItsOwnRelationships() {
+        const auto make = [this](const QString& name, const QByteArray& core) {
+            const QByteArray relationships =
+                "<Relationships xmlns=\"http://schemas.openxmlformats.org/package/2006/"
+                "relationships\"><Relationship Id=\"r\" Target=\"" +
+                core + "\" Type=\"" + kCoreKind.relationship + "\"/></Relationships>";
+            const auto titled = [](const QByteArray& title) {
+                return "<c:coreProperties xmlns:c=\"http://schemas.openxmlformats.org/package/2006/"
+                       "metadata/core-properties\" xmlns:d=\"http://purl.org/dc/elements/1.1/\">"
+                       "<d:title>" +
+                       title + "</d:title></c:coreProperties>";
+            };
+            PackageWriter::Create(Path(name),
+                                  {{Relationships::kPart, relationships},
+                                   {"one.xml", titled("one.xml")},
+                                   {"two.xml", titled("two.xml")}},
+                                  true);
+            return Path(name);
+        };
+        const QString one = make("one.tfmprt", "one.xml");
+        const QString two = make("two.tfmprt", "two.xml");
+        for (int round = 0; round < 3; ++round) {
+            QVERIFY(Holds(one, "Title", Is, "one.xml"));
+            QVERIFY(Holds(two, "Title", Is, "two.xml"));
+            QVERIFY(Holds(two, "Title", Is, "two.xml"));
+        }
+    }
+
     void DocumentsMayBeGivenByRelativePaths() {
         Make("a.tfmprt", {{"P", "x"}});
         const QString former = QDir::currentPath();
