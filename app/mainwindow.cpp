@@ -43,6 +43,7 @@ bool MainWindow::HasDocument() const {
 void MainWindow::closeEvent(QCloseEvent* event) {
     if (const auto key = WindowKey())
         key->SetText(kGeometry, QString::fromLatin1(saveGeometry().toBase64()));
+    frame_->Shell().ReleasePanes();  // a search would go on without a window
     QMainWindow::closeEvent(event);
 }
 

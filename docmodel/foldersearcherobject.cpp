@@ -63,17 +63,20 @@ SearchCounts FolderSearcherObject::GetSearchCounts() {
 }
 
 int FolderSearcherObject::GetRegistryValueCount() {
-    return key_ ? int(key_->ValueNames().size()) : 0;
+    names_ = key_ ? key_->ValueNames() : QStringList();
+    return int(names_.size());
 }
 
 std::pair<QString, QString> FolderSearcherObject::EnumRegistryValue(int index) {
-    const QStringList names = key_ ? key_->ValueNames() : QStringList();
-    if (index < 0 || index >= names.size())
+    if (index == 0 || names_.isEmpty())
+        names_ = key_ ? key_->ValueNames() : QStringList();
+    if (index < 0 || index >= names_.size())
         return {};
-    return {names[index], key_->Text(names[index]).value_or(QString())};
+    return {names_[index], key_->Text(names_[index]).value_or(QString())};
 }
 
 int FolderSearcherObject::SetRegistryValue(const QString& name, const QString& value) {
+    names_.clear();
     return key_ && key_->SetText(name, value) ? 0 : 1;
 }
 
@@ -83,11 +86,13 @@ QString FolderSearcherObject::GetRegistryValue(const QString& name) {
 
 // Here 0 means that it failed: the one status that is the other way round.
 int FolderSearcherObject::DeleteRegistryValue(const QString& name) {
+    names_.clear();
     return key_ && key_->Delete(name) ? 1 : 0;
 }
 
 int FolderSearcherObject::OpenRegistryKey(const QString& keyPath) {
     key_ = SettingsKey::Open(SettingsKey::Hive::CurrentUser, keyPath);
+    names_.clear();
     return key_ ? 0 : 1;
 }
 

@@ -34,6 +34,7 @@ private:
     std::optional<ReferenceIndex> index_;         // opened by the first search
     docbench::SearchCounts counts_;               // of all searches
     std::unique_ptr<docbench::SettingsKey> key_;  // null: no key is open
+    QStringList names_;                           // of its values, as one walk over them reads them
 };
 
 }  // namespace docmodel

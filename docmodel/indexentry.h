@@ -22,7 +22,7 @@ struct IndexEntry {
 // home has another mark.
 enum class IndexMark : quint32 {
     References = 0x31584952,  // "RIX1": the hashes of StemHash, 4 bytes each
-    Properties = 0x31584950,  // "PIX1": a PropertyRecord
+    Properties = 0x32584950,  // "PIX2": a PropertyRecord
 };
 
 // Walks through packed entries, which are in the order of their names' bytes. Bytes that are

@@ -62,6 +62,10 @@ bool PropertyQueryObject::Evaluate(const QString& path) {
         qCDebug(searchLog).noquote() << error.Description();
         ++counts_.unread;
         return false;
+    } catch (const std::bad_alloc&) {
+        qCDebug(searchLog).noquote() << path << "takes more memory than there is.";
+        ++counts_.unread;
+        return false;
     }
     const PropertyRecord record(packed);
     bool matches = false;

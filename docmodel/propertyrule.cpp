@@ -92,6 +92,8 @@ bool PropertyRule::HoldsFor(const std::optional<PropertyValue>& property) const 
 
 bool PropertyRule::HoldsForFileName(const QString& name) const {
     const QLatin1String anyExtension(".*");
+    if (text_ == anyExtension)
+        return false;  // an empty value, with any extension
     if (kind_ != Kind::Text || operator_ == Operator::Contains || !text_.endsWith(anyExtension))
         return HoldsFor(PropertyValue{name, kText});
     const bool isSame = SameText(name.left(name.lastIndexOf(u'.')), text_.chopped(2));

@@ -4,6 +4,7 @@
 #include <QFocusEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QPointer>
 #include <QPushButton>
 
 #include "cells/celllist.h"
@@ -141,10 +142,12 @@ void FolderListInput::TestFolders() {
     controls_.wuLookin->setText(good.join(u';'));
     if (failed.isEmpty())
         return;
+    const QPointer<FolderListInput> alive(this);
     testing_ = true;
     gSeams.dialogs->Box(Format(Text::FoldersNotFound, failed.join(u';')),
                         Dialogs::Icon::Exclamation, gAppTitle);
-    testing_ = false;
+    if (alive)
+        testing_ = false;
 }
 
 }  // namespace docbench

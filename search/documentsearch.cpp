@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include "panes/folderwalk.h"
+#include "services/errorstate.h"
 #include "services/folderlists.h"
 #include "services/paths.h"
 
@@ -92,7 +93,10 @@ bool DocumentSearch::SearchFiles(const QString& folder, const QStringList& names
         if (!IsCandidate(name, path))
             continue;
         query_.SetFileName(name);
-        if (query_.Evaluate(path)) {
+        ErrorState passedOver;
+        bool matches = false;
+        passedOver.Assign(matches, [&] { return query_.Evaluate(path); });
+        if (matches) {
             ++found_;
             calls_.found(path);
         }

@@ -151,7 +151,8 @@ void srcControl::SetShowDesc(bool show) {
 }
 
 void srcControl::Putpartfilename(const QString& path) {
-    mStopRequested = true;  // a search that is running belongs to the document before
+    if (path != partfilename_)
+        mStopRequested = true;  // a search that is running belongs to the document before
     partfilename_ = path;
     if (ui_->srcLookin->text().isEmpty() && !path.isEmpty())
         ui_->srcLookin->setText(FolderOf(path));

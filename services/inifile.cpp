@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QSet>
 #include <QStringDecoder>
 #include <algorithm>
 
@@ -216,12 +217,16 @@ bool IniFile::Save(const QString& path) const {
 QStringList IniFile::Names(const QString& section) const {
     const QString prefix = Joined(section, QString());
     QStringList names;
+    QSet<QString> known;
     for (const Line& line : lines_) {
         const QStringView name = QStringView(line.key).mid(prefix.size());
         if (line.kind == Kind::Value && line.key.startsWith(prefix) &&
-            !name.contains(QLatin1Char(kLevelSeparator)) &&
-            !names.contains(DecodeLevel(name.toString())))
-            names.append(DecodeLevel(name.toString()));
+            !name.contains(QLatin1Char(kLevelSeparator))) {
+            const QString decoded = DecodeLevel(name.toString());
+            if (!known.contains(decoded))
+                names.append(decoded);
+            known.insert(decoded);
+        }
     }
     return names;
 }

@@ -1,6 +1,7 @@
 #include "setup/folderlisteditor.h"
 
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <algorithm>
 #include <initializer_list>
@@ -127,8 +128,9 @@ QString FolderListEditor::ValueNameOf(const QString& name) const {
 }
 
 void FolderListEditor::AddFolder() {
+    const QPointer<FolderListEditor> alive(this);
     const QString folder = BrowseForFolder(QString(), Tr(Text::FolderListWhat));
-    if (folder.isEmpty())
+    if (!alive || folder.isEmpty())
         return;
     controls_.DirList->List().Append(FolderRow(folder));
     Enable({controls_.wuDeleteDir, controls_.wuApply}, true);
@@ -159,8 +161,12 @@ void FolderListEditor::MoveFolder(int by) {
 void FolderListEditor::DeleteFolders() {
     CellList& folders = controls_.DirList->List();
     const QList<int> rows = controls_.DirList->SelectedRows();
-    for (auto row = rows.crbegin(); row != rows.crend(); ++row)
-        folders.Remove(*row);
+    if (rows.size() == folders.Count()) {
+        folders.Clear();
+    } else {
+        for (auto row = rows.crbegin(); row != rows.crend(); ++row)
+            folders.Remove(*row);
+    }
     if (folders.Count() == 0)
         Enable({controls_.wuDeleteDir, controls_.wuApply, controls_.wumovedown, controls_.wumoveup},
                false);
@@ -172,9 +178,11 @@ void FolderListEditor::Apply() {
     if (name.isEmpty())
         return;
     if (name.contains(u' ')) {
+        const QPointer<FolderListEditor> alive(this);
         gSeams.dialogs->Box(Tr(Text::FolderListNameWithBlank), Dialogs::Icon::Exclamation,
                             gAppTitle);
-        controls_.wuKey->setFocus();
+        if (alive)
+            controls_.wuKey->setFocus();
         return;
     }
     QStringList folders;
@@ -192,9 +200,12 @@ void FolderListEditor::DeleteList() {
     const QString name = controls_.wuKey->text();
     if (name.isEmpty())
         return;
+    const QPointer<FolderListEditor> alive(this);
     if (!DeleteFolderList(ValueNameOf(name)))
         gSeams.dialogs->Box(Format(Text::FolderListNotDeleted, name), Dialogs::Icon::None,
                             gAppTitle);
+    if (!alive)
+        return;
     ReloadNames();
     ClearEditor();
 }

@@ -318,6 +318,8 @@ private Q_SLOTS:
         QTest::newRow("star elsewhere") << int(Is) << QVariant("b*.v2.*") << false;
         QTest::newRow("is not") << int(IsNot) << QVariant("bolt.v2.*") << false;
         QTest::newRow("is not another") << int(IsNot) << QVariant("nut.*") << true;
+        QTest::newRow("is nothing") << int(Is) << QVariant(".*") << false;
+        QTest::newRow("is not nothing") << int(IsNot) << QVariant(".*") << false;
         QTest::newRow("equal") << int(Equal) << QVariant("bolt.v2.*") << true;
         QTest::newRow("not equal") << int(NotEqual) << QVariant("bolt.v2.*") << false;
         QTest::newRow("contains") << int(Contains) << QVariant("OLT.") << true;

@@ -279,12 +279,36 @@ private Q_SLOTS:
         QVERIFY(!Number("Show Description"));
     }
 
+    void aListThatCannotBeStoredIsNotTold() {
+        Bench bench;
+        bench.Show();
+        const ReadOnlySettings readOnly;
+        bench.Key()->setText("Vendors");
+        bench.Click("wuApply");  // no box
+        QCOMPARE(bench.status.caption, Format(Text::FolderListSaved, "Vendors"));
+        QVERIFY(!Options()->Text("Vendors TDB-Key"));
+    }
+
+    void aListThatMayNotBeDeletedStays() {
+        Bench::StoreLists();
+        Bench bench;
+        bench.Show();
+        const ReadOnlySettings readOnly;
+        bench.Key()->setText("Vendors");
+        bench.dialogs.Expect(Format(Text::FolderListNotDeleted, "Vendors"), Dialogs::Icon::None);
+        bench.Click("wuDelKey");
+        QVERIFY(bench.dialogs.AllCame());
+        QVERIFY(RowOf(bench, "Vendors") >= 0);
+    }
+
     void theShellFollowsTheOptions() {
         ShellBench bench;
         bench.Open();
         bench.shell.SetCurrentFunction("SETUP");
+        bench.Click(2);
+        QCOMPARE(bench.shell.m_partfilename, bench.left);
         bench.Child<QCheckBox>("chkShowDesc")->click();
-        QCOMPARE(bench.shell.Tree().Nodes().Count(), 4);  // loaded again
+        QCOMPARE(bench.shell.m_partfilename, bench.top);  // the tree was loaded again
         bench.shell.SetCurrentFunction("WHERE");
         for (QWidget* strip : bench.shell.findChildren<QWidget*>("DescControl1"))
             QVERIFY(!strip->isVisible());
