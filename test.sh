@@ -5,6 +5,6 @@ cd "$(dirname "$0")"
 
 ./setup.sh tests
 export CCACHE_DIR="${CCACHE_DIR:-${XDG_CACHE_HOME:-$HOME/.cache}/ccache}"
-cmake --preset dev
-cmake --build --preset dev
-ctest --preset dev
+cmake --preset test
+cmake --build --preset test
+ctest --preset test
