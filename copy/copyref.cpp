@@ -128,7 +128,10 @@ void copyRef::ConnectControls() {
     connect(ui_->toFile, &QLineEdit::textChanged, this, &copyRef::OnToFileChanged);
     connect(ui_->targetPath, &QLineEdit::textChanged, this, &copyRef::OnTargetPathChanged);
     connect(ui_->prefix, &QLineEdit::textChanged, this, [this] { RecomputeTargets(false); });
-    connect(ui_->OptionPrefix_0, &QRadioButton::toggled, this, [this] { RecomputeTargets(false); });
+    connect(ui_->OptionPrefix_0, &QRadioButton::toggled, this, [this] {
+        if (ui_->prefix->isEnabled())  // else the copy is done, and its targets stay
+            RecomputeTargets(false);
+    });
     connect(ui_->BrowseFile, &QPushButton::clicked, this, &copyRef::BrowseFile);
     connect(ui_->browse, &QPushButton::clicked, this, &copyRef::BrowseFolder);
     connect(ui_->children, &QCheckBox::toggled, this, &copyRef::OnChildren);

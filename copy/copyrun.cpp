@@ -55,9 +55,12 @@ public:
 private:
     static void ForgetOutcomes(CellList& list, int target) {
         list.ChangeAll([target](CellRow& row) {
-            row.cells[size_t(target)].foreColor = kColorNormal;
-            if (target == kCopyTarget)
-                row.cells[kCopyTick].toolTip.clear();
+            Cell& cell = row.cells[size_t(target)];
+            cell.foreColor = kColorNormal;
+            if (target != kCopyTarget)
+                return;
+            cell.toolTip = cell.tag;
+            row.cells[kCopyTick].toolTip.clear();
         });
     }
 
@@ -153,8 +156,10 @@ private:
     bool BringToDisk() {
         QStringList folders;
         for (auto made = files_.madeFrom.cbegin(); made != files_.madeFrom.cend(); ++made) {
-            if (!IsWebPath(made.key()))
-                folders.append(FolderOf(made.key()));
+            const QString folder = FolderOf(made.key());
+            // One that is gone took its copies along, which are asked about one by one.
+            if (!IsWebPath(folder) && FileExists(folder))
+                folders.append(folder);
         }
         folders.removeDuplicates();
         folders.sort();

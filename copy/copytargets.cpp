@@ -157,7 +157,8 @@ void copyRef::ChooseTarget(CellListView* list, int row) {
     const CellRow& shown = list->List().At(row);
     const bool hasTarget = isCopy || ReadParentRow(shown).state == ParentState::Copy;
     QString path = shown.cells[isCopy ? size_t(kCopyTarget) : size_t(kParentTarget)].tag;
-    if (path.isEmpty() || !hasTarget || running_)
+    const bool isLocked = !ui_->toFile->isEnabled();  // a copy runs, or is done
+    if (path.isEmpty() || !hasTarget || isLocked)
         return;
     const QString name = gSeams.dialogs->SaveFile(Tr(Text::ChooseDocument), FilterFor(path),
                                                   FolderText() + u'/' + FileNameOf(path));

@@ -333,6 +333,9 @@ private Q_SLOTS:
         for (const char* name : {"reset", "cmdReplace", "selectall"})
             QVERIFY2(!bench.IsEnabled(name), name);
         QCOMPARE(bench.Target(0).foreColor, kColorBlue);
+        bench.Child<QRadioButton>("OptionPrefix_1")->click();
+        Q_EMIT bench.View(0)->Activated(0);  // no dialog comes
+        QCOMPARE(bench.Target(0).tag, bench.folder + "/x_left.tfmasm");
         bench.pane->SetPartName("top", bench.top, bench.top);
         QVERIFY(bench.IsEnabled("apply"));
         QCOMPARE(bench.List(0).Count(), 0);

@@ -231,6 +231,9 @@ private Q_SLOTS:
         desk.Run();
         QCOMPARE(desk.Target(0).foreColor, kColorNormal);
         QVERIFY(desk.Holds(desk.target).startsWith("left.tfmasm "));
+        TickAll(desk.copies, true);
+        desk.Run();
+        QCOMPARE(desk.Target(0).toolTip, desk.Target(0).tag);  // no more that it was not copied
     }
 
     void aTargetThatIsTheSourceIsRefusedByTheDiskAndTheRunGoesOn() {

@@ -278,6 +278,23 @@ private Q_SLOTS:
         }
     }
 
+    void aTargetFolderThatVanishesBehindTheLastCopyBreaksNoReference() {
+        Project project;
+        AnsweringDialogs dialogs;
+        project.Restore();
+        TrickyFiles files;
+        files.nth = kCopies + 1;
+        files.after = [&](const QString&, const QString&) {
+            QDir(project.Copy("sub")).removeRecursively();
+        };
+        const CopyResult result = project.Run();
+        QCOMPARE(result.copied, kCopies);
+        QVERIFY2(project.Broken().isEmpty(), qPrintable(project.Broken()));
+        QCOMPARE(dialogs.boxes.size(), 3);  // one for each group that was in it
+        QCOMPARE(project.Holds(project.whole),
+                 QString("new/x_top.tfmasm part0.tfmprt new/x_top.tfmasm"));
+    }
+
     void aTargetThatAppearsIsAskedAbout_data() {
         QTest::addColumn<int>("answer");
         QTest::newRow("kept") << int(Answer::No);
