@@ -192,10 +192,8 @@ void srcControl::OperatorChosen() {
         return ui_->srcValue->setText(kNoValue);
     if (ui_->srcValue->text() == kNoValue)
         ui_->srcValue->clear();
-    if (code > kContains && IsValueRefused()) {
-        TellNumberNeeded();
+    if (code > kContains && IsValueRefused() && TellNumberNeeded())
         ui_->srcOP->setFocus();
-    }
 }
 
 bool srcControl::IsValueRefused() const {
@@ -203,11 +201,15 @@ bool srcControl::IsValueRefused() const {
     return !text.isEmpty() && !NumberFromLocal(text);
 }
 
-void srcControl::TellNumberNeeded() {
+// False when the pane went away behind the box.
+bool srcControl::TellNumberNeeded() {
+    const QPointer<srcControl> alive(this);
     isTelling_ = true;
     gSeams.dialogs->Box(Format(Text::NumberNeeded, ui_->srcOP->currentText()),
                         Dialogs::Icon::Exclamation, gAppTitle);
-    isTelling_ = false;
+    if (alive)
+        isTelling_ = false;
+    return alive;
 }
 
 bool srcControl::eventFilter(QObject* watched, QEvent* event) {
@@ -231,7 +233,8 @@ void srcControl::LeaveValue() {
     if (isTelling_ || !ui_->srcValue->isVisible() || !ui_->srcValue->isEnabled() || code < kLess ||
         code > kAtLeast || !IsValueRefused())
         return;
-    TellNumberNeeded();
+    if (!TellNumberNeeded())
+        return;
     ui_->srcValue->setFocus();
     ui_->srcValue->selectAll();
 }
@@ -290,6 +293,7 @@ void srcControl::NewSearch() {
 }
 
 void srcControl::Save() {
+    const QPointer<srcControl> alive(this);
     QString path = gSeams.dialogs->SaveFile(WithoutMnemonic(Tr(Text::SaveSearch)),
                                             Tr(Text::SavedSearchFilter), QString());
     if (path.isEmpty())
@@ -300,15 +304,18 @@ void srcControl::Save() {
         gSeams.dialogs->Box(Tr(Text::SavedSearchExists), Dialogs::Icon::Exclamation, gAppTitle,
                             Dialogs::Buttons::OkCancel) != Dialogs::Answer::Ok)
         return;
+    if (!alive)
+        return;
     ErrorState errors;
     if (!errors.Run([&] { WriteSavedSearch(path, ui_->searchlist->List()); }))
         gSeams.dialogs->Box(errors.Description(), Dialogs::Icon::Exclamation, gAppTitle);
 }
 
 void srcControl::Load() {
+    const QPointer<srcControl> alive(this);
     const QString path = gSeams.dialogs->OpenFile(WithoutMnemonic(Tr(Text::LoadSearch)),
                                                   Tr(Text::SavedSearchFilter));
-    if (path.isEmpty())
+    if (!alive || path.isEmpty())
         return;
     CellList& rules = ui_->searchlist->List();
     rules.Clear();
@@ -317,6 +324,8 @@ void srcControl::Load() {
         !errors.Run([&] { ReadSavedSearch(path, OperatorsOffered(), rules); }))
         gSeams.dialogs->Box(Tr(Text::SavedSearchError), Dialogs::Icon::Exclamation, gAppTitle,
                             Dialogs::Buttons::Ok, errors.Description());
+    if (!alive)
+        return;
     UpdateStartEnabled();
     if (rules.Count() > 0)
         ui_->srcSave->setEnabled(true);

@@ -52,7 +52,7 @@ private:
     QStringList OperatorsOffered() const;
     void OperatorChosen();
     bool IsValueRefused() const;
-    void TellNumberNeeded();
+    bool TellNumberNeeded();
     void LeaveValue();
     void LeaveRules();
 
