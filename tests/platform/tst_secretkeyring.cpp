@@ -4,6 +4,8 @@
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
 #include <QTest>
+#include <cstdio>
+#include <cstdlib>
 
 #include "platform/secretkeyring.h"
 #include "tests/services/privatebus.h"
@@ -79,5 +81,16 @@ private:
     std::unique_ptr<PrivateBus> bus_;
 };
 
-DOCBENCH_TEST_MAIN(QCoreApplication, TestSecretKeyRing)
+// The keyrings' library runs a thread that the end of the process would pull the ground from under.
+int main(int argc, char* argv[]) {
+    int result = 0;
+    {
+        const TestEnvironment environment;
+        QCoreApplication application(argc, argv);
+        TestSecretKeyRing test;
+        result = QTest::qExec(&test, argc, argv);
+    }
+    std::fflush(nullptr);
+    std::_Exit(result);
+}
 #include "tst_secretkeyring.moc"
