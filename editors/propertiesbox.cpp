@@ -400,8 +400,12 @@ QString PropertiesBox::TextOf(SummaryField field) const {
         case SummaryField::Comments:
             break;
     }
-    // Not as plain text, which would turn every no-break space into a common one.
-    return ui_->Summary_6->document()->toRawText().replace(QChar::ParagraphSeparator, u'\n');
+    // Not as plain text, which would turn every no-break space into a common one. Shift+Enter makes
+    // a line separator, which is a line's end like any other.
+    return ui_->Summary_6->document()
+        ->toRawText()
+        .replace(QChar::ParagraphSeparator, u'\n')
+        .replace(QChar::LineSeparator, u'\n');
 }
 
 }  // namespace docbench
