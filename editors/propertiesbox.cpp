@@ -176,6 +176,8 @@ void PropertiesBox::populateSummary(const QString& path) {
 }
 
 void PropertiesBox::Load(const QString& path) {
+    // What is saved is still to be uploaded, unless its copy was given up.
+    uploadPending_ = uploadPending_ && path == partfilename && gWebCopies.contains(path);
     partfilename = path;
     Blank();
     const auto info = Documents().MakeDocumentInfo();
@@ -184,11 +186,12 @@ void PropertiesBox::Load(const QString& path) {
         return SetStatusText(Format(Text::NoPropertiesOf, path));
     }
     FillSummary(*info);
-    LoadPropertyRows(ui_->customSet->List(), *info);
+    ui_->customSet->Load(*info, path);
     customStamp_ = info->GetStamp(PropertyGroup::Custom);
-    ui_->customSet->FitColumns();
     ListConfigurations();
     populated = true;
+    if (uploadPending_)
+        EnableButtons();
     SetStatusText(Format(Text::PropertiesOf, path));
 }
 
@@ -277,11 +280,11 @@ bool PropertiesBox::LeaveConfiguration() {
         configDirty = false;
         return true;
     }
-    bool written = false;
     ErrorState errors;
-    if (!errors.Run([&] { written = WriteConfiguration(currentConfiguration); }))
-        Warn(Format(Text::PropertiesWriteError, errors.Description()));
-    return written;
+    if (errors.Run([this] { WriteConfiguration(currentConfiguration); }))
+        return true;
+    Warn(Format(Text::PropertiesWriteError, errors.Description()));
+    return false;
 }
 
 // The set of a configuration by its position; null when it has none. Raises when another one
@@ -301,12 +304,11 @@ void PropertiesBox::ShowConfiguration(int index) {
     const auto set = OpenConfiguration(index);
     if (!set)
         return Warn(Tr(Text::NoConfigurationProperties));
-    LoadPropertyRows(ui_->configSet->List(), *set);
+    ui_->configSet->Load(*set, partfilename);
     configStamp_ = set->GetStamp(PropertyGroup::Custom);
     configDirty = false;
     deletedConfigNames.clear();
     ui_->configSet->ClearInput();
-    ui_->configSet->FitColumns();
     ui_->configSet->setEnabled(true);
 }
 
@@ -324,6 +326,8 @@ void PropertiesBox::WriteEdits() {
         return;
     if (summaryDirty || customDirty)
         WriteDocument();
+    else if (uploadPending_)
+        Upload();
 }
 
 // The flags are cleared when all is on the disk, so that whatever fails can be tried again. False
@@ -339,10 +343,8 @@ bool PropertiesBox::WriteConfiguration(int index) {
     set->Save();
     configStamp_ = set->GetStamp(PropertyGroup::Custom);
     deletedConfigNames.clear();
-    if (!UploadIfWeb(partfilename))
-        return false;
     configDirty = false;
-    return true;
+    return Upload();
 }
 
 void PropertiesBox::WriteDocument() {
@@ -360,10 +362,17 @@ void PropertiesBox::WriteDocument() {
         WriteProperties(ui_->customSet->List(), *info, deletedCustomNames);
     info->Save();
     TakeAsRead(*info, HasEdits(typed));
-    if (!UploadIfWeb(partfilename))
-        return;
     summaryDirty = customDirty = false;
+    Upload();
     ShowLastSave(*info);
+}
+
+// False when the server has not taken what is saved. Raises when its local copy was given up since.
+bool PropertiesBox::Upload() {
+    uploadPending_ = true;
+    UrlToUpload(partfilename, gWebCopies.value(partfilename));
+    uploadPending_ = !UploadIfWeb(partfilename);
+    return !uploadPending_;
 }
 
 // What was not written keeps its stamp: the pane still shows it as it was read.

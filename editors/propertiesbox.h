@@ -63,6 +63,7 @@ private:
     bool WriteConfiguration(int index);
     void WriteDocument();
     void TakeAsRead(DocumentInfo& saved, bool summaryTyped);
+    bool Upload();
     SummaryEdits TypedSummary() const;
     QString TextOf(SummaryField field) const;
 
@@ -76,6 +77,7 @@ private:
     QStringList deletedConfigNames;
     int currentConfiguration = -1;
     bool populated = false;
+    bool uploadPending_ = false;  // saved, but the server has not taken it
     bool showDesc_ = true;
 
     // As they were read or last written: what differs on the disk is somebody else's work.
