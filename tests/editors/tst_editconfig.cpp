@@ -42,6 +42,11 @@ struct Bench : EditorBench<editConfig> {
         return names;
     }
     QString Image(int node) { return Node(node).image; }
+    void ChangeElsewhere(const std::function<void(DocumentBuilder&)>& change) {
+        DocumentBuilder document = DocumentBuilder::Edit(pin);
+        change(document);
+        document.Save();
+    }
     // Opens the menu on a node, and gives its entry.
     QAction* Entry(int node, int number) {
         View()->setCurrentIndex(Tree().IndexOf(node));
@@ -328,6 +333,36 @@ private Q_SLOTS:
         QCOMPARE(bench.Stored(), QStringList({"B", "C", "A"}));
     }
 
+    // Each new name is still another one's when its turn comes; what hangs on a configuration stays
+    // with it.
+    void namesMayMoveUpInAChain() {
+        Bench bench;
+        const QString screw = bench.library.Make("screw.tfmprt");
+        bench.pin = bench.library.Make("top.tfmasm", {{screw, 3}}, {{screw, "x"}});
+        bench.Load({"A", "B", "C"});
+        for (const char* name : {"A", "B", "C"})
+            bench.ChangeElsewhere([&](DocumentBuilder& document) {
+                document.SetConfigurationProperty(name, "Was", name);
+            });
+        bench.pane->SetPartName("top", bench.pin);
+        bench.Type(4, "D");
+        bench.Type(3, "C");
+        bench.Type(2, "B");
+        bench.Save();
+        QCOMPARE(bench.Stored(), QStringList({"B", "C", "D"}));
+        const auto file = Documents().MakeDocumentFile();
+        file->Open(bench.pin);
+        for (int index = 0; index < 3; ++index) {
+            const auto set = file->GetCustomProperties(index);
+            QCOMPARE(set->GetCustomCount(), 1);
+            QCOMPARE(set->GetCustomProperty(0).value, QVariant(QString(QChar(u'A' + index))));
+        }
+        QCOMPARE(file->GetComponentCount(), 1);
+        QCOMPARE(file->GetComponent(0, QString()).path, screw);
+        QCOMPARE(file->GetComponent(0, QString()).count, 3);
+        QCOMPARE(file->GetExternalReference(0, QString()).path, screw);
+    }
+
     void aNameOfAnInternalConfigurationIsRefusedAtTheSave() {
         Bench bench;
         bench.Load({"A", "!secret"});
@@ -433,12 +468,12 @@ private Q_SLOTS:
             bench.PressDelete(2);
         else
             bench.Type(2, "Mine");
-        DocumentBuilder document = DocumentBuilder::Edit(bench.pin);
-        if (deletes)
-            document.SetConfigurationProperty("A", "Length", 1.0);
-        else
-            document.AddConfiguration("C");
-        document.Save();
+        bench.ChangeElsewhere([&](DocumentBuilder& document) {
+            if (deletes)
+                document.SetConfigurationProperty("A", "Length", 1.0);
+            else
+                document.AddConfiguration("C");
+        });
         const QByteArray before = BytesOf(bench.pin);
         bench.dialogs.Expect(SaveErrorBeginning());
         bench.Save();
@@ -453,9 +488,8 @@ private Q_SLOTS:
         Bench bench;
         bench.Load({"A"});
         bench.Type(2, "Mine");
-        DocumentBuilder document = DocumentBuilder::Edit(bench.pin);
-        document.AddHyperlink("http://server/");
-        document.Save();
+        bench.ChangeElsewhere(
+            [](DocumentBuilder& document) { document.AddHyperlink("http://server/"); });
         bench.Save();
         QCOMPARE(bench.Stored(), QStringList("Mine"));
     }

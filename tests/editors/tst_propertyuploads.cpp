@@ -47,6 +47,16 @@ struct Bench : PropertiesBench {
     const QString url = "http://server/docs/pin.tfmprt";
 };
 
+// A server that notes the uploads among the calls to the document library.
+struct NotingClient : FakeWebClient {
+    NotingClient(FakeServer& server, QStringList& notes) : FakeWebClient(server), calls(notes) {}
+    bool PutFile(const QString& localPath, const QString& address) override {
+        calls.append("upload");
+        return FakeWebClient::PutFile(localPath, address);
+    }
+    QStringList& calls;
+};
+
 // Counts the calls of one operation on documents.
 struct Calls {
     explicit Calls(const char* operation)
@@ -75,6 +85,46 @@ private Q_SLOTS:
         bench.LookAtTheServer();
         QCOMPARE(bench.Stored("Owner"), QVariant("Mine"));
         QCOMPARE(bench.StoredIn(0, "Length"), QVariant(21.0));
+    }
+
+    // Edits of all kinds in one save, each opening, deletion, write, save and upload at its place.
+    void aSaveKeepsItsOrder() {
+        Bench bench;
+        QStringList calls;
+        FailingAccess access([&calls](const char* operation, const QString&) {
+            const QString name = QLatin1String(operation);
+            if (name != "GetStamp" && (!name.startsWith("Get") || name == "GetLastSaved" ||
+                                       name == "GetCustomProperties"))
+                calls.append(name);
+        });
+        gWebFolder = std::make_unique<NotingClient>(bench.web.server, calls);
+        bench.PickConfiguration(1);
+        bench.Remove(kConfigurationSet, "Length");
+        bench.Put(kConfigurationSet, "Finish", "chrome");
+        bench.Put(kConfigurationSet, "Coating", "thick");
+        bench.Remove(kCustomSet, "Released");
+        bench.Remove(kCustomSet, "Material");
+        bench.Put(kCustomSet, "Mass", "2", 2);
+        bench.Put(kCustomSet, "Owner", "Castings");
+        bench.Summary(5)->setText("fastener");
+        calls.clear();
+        bench.Apply();
+        const QString configuration =
+            "Open GetCustomProperties DeleteCustomProperty SetCustomProperty SetCustomProperty "
+            "Save upload";
+        const QString rest =
+            "Open SetAuthor SetComments SetKeywords SetSubject SetTitle DeleteCustomProperty "
+            "DeleteCustomProperty SetCustomProperty SetCustomProperty SetCustomProperty "
+            "Save upload GetLastSaved";
+        QCOMPARE(calls.join(' '), configuration + ' ' + rest);
+        bench.LookAtTheServer();
+        const auto record = bench.Record();
+        QStringList names;
+        for (int index = 0; index < record->GetCustomCount(); ++index)
+            names.append(record->GetCustomProperty(index).name);
+        QCOMPARE(names, QStringList({"Checked", "Mass", "Owner"}));  // as the list has them
+        QCOMPARE(bench.StoredIn(1, "Coating"), QVariant("thick"));
+        QVERIFY(!bench.StoredIn(1, "Length").isValid());
     }
 
     void aRefusedUploadCanBeTriedAgain() {

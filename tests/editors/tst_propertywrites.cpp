@@ -68,6 +68,28 @@ private Q_SLOTS:
         QCOMPARE(bench.Fact("labLastsaved"), record->GetLastSaved());
     }
 
+    void theDateOfTheLastSaveIsReadFromTheDocument() {
+        PropertiesBench bench;
+        ChangeElsewhere(bench.pin, [](DocumentBuilder& document) {
+            document.SetCreated(QDateTime(QDate(2003, 12, 24), QTime(8, 5)));
+            document.SetLastSaved(QDateTime(QDate(2004, 5, 31), QTime(14, 7)), "anna");
+        });
+        QLocale::setDefault(QLocale("de_DE"));
+        bench.Load();
+        QCOMPARE(bench.Fact("labCreated"), QString("24.12.03 08:05"));
+        QCOMPARE(bench.Fact("labLastsaved"), QString("31.05.04 14:07"));
+        QCOMPARE(bench.Fact("labLastSavedby"), QString("anna"));
+        bench.Put(kCustomSet, "Owner", "Castings");
+        QCOMPARE(bench.Fact("labLastsaved"), QString("31.05.04 14:07"));
+        bench.Apply();
+        const QString shown = bench.Fact("labLastsaved");
+        QVERIFY(shown != "31.05.04 14:07");
+        QCOMPARE(shown, bench.Record()->GetLastSaved());
+        QCOMPARE(bench.Fact("labLastSavedby"), bench.Record()->GetLastSavedBy());
+        QCOMPARE(bench.Fact("labCreated"), QString("24.12.03 08:05"));
+        QLocale::setDefault(QLocale::system());
+    }
+
     void everyRowIsWrittenBehindTheDeletions() {
         PropertiesBench bench;
         Writes writes;
