@@ -89,12 +89,8 @@ void editConfig::ConnectControls() {
     connect(ui_->tvwconfig, &EditTree::DeletePressed, this, &editConfig::ToggleDeletion);
     connect(ui_->tvwconfig, &EditTree::MenuRequested, this, &editConfig::ShowMenu);
     connect(ui_->ecSave, &QPushButton::clicked, this, &editConfig::Save);
-    connect(ui_->ecReset, &QPushButton::clicked, this, [this] {
-        const bool pending = uploadPending_;  // what is saved is still to be uploaded
-        SetPartName(partDisplayName, partfilename);
-        uploadPending_ = pending;
-        UpdateButtons();
-    });
+    connect(ui_->ecReset, &QPushButton::clicked, this,
+            [this] { SetPartName(partDisplayName, partfilename); });
 }
 
 QString editConfig::HelpTopic() const {
@@ -118,7 +114,8 @@ void editConfig::UpdateButtons() {
 
 void editConfig::SetPartName(const QString& displayName, const QString& path) {
     configurations_->Clear();
-    uploadPending_ = false;
+    // What is saved is still to be uploaded, unless its copy was given up.
+    uploadPending_ = uploadPending_ && path == partfilename && gWebCopies.contains(path);
     UpdateButtons();
     partDisplayName = displayName;
     partfilename = path;

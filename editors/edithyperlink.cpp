@@ -58,12 +58,8 @@ void EditHyperLink::ConnectControls() {
     });
     connect(ui_->tvwhlink, &EditTree::Opened, this, &EditHyperLink::OpenTarget);
     connect(ui_->ecSave, &QPushButton::clicked, this, &EditHyperLink::Save);
-    connect(ui_->ecReset, &QPushButton::clicked, this, [this] {
-        const bool pending = uploadPending_;  // what is saved is still to be uploaded
-        SetPartName(partDisplayName, partfilename);
-        uploadPending_ = pending;
-        UpdateButtons();
-    });
+    connect(ui_->ecReset, &QPushButton::clicked, this,
+            [this] { SetPartName(partDisplayName, partfilename); });
 }
 
 QString EditHyperLink::HelpTopic() const {
@@ -87,7 +83,8 @@ void EditHyperLink::UpdateButtons() {
 
 void EditHyperLink::SetPartName(const QString& displayName, const QString& path) {
     hyperlinks_->Clear();
-    uploadPending_ = false;
+    // What is saved is still to be uploaded, unless its copy was given up.
+    uploadPending_ = uploadPending_ && path == partfilename && gWebCopies.contains(path);
     UpdateButtons();
     partDisplayName = displayName;
     partfilename = path;

@@ -3,13 +3,10 @@
 #include <QAction>
 #include <QFile>
 
-#include "docmodel/package.h"
 #include "editors/editconfig.h"
 #include "services/documentlibrary.h"
-#include "services/webdocument.h"
 #include "tests/editors/editorbench.h"
 #include "tests/support/failingaccess.h"
-#include "tests/support/fakewebclient.h"
 #include "tests/support/filelockholder.h"
 #include "tests/support/testenvironment.h"
 
@@ -386,9 +383,9 @@ private Q_SLOTS:
         bench.Load(names);
         for (int node = 2; node <= 1001; ++node) {
             if (node % 2 == 0)
-                bench.View()->DeletePressed(node);
+                bench.PressDelete(node);
             else
-                bench.View()->EditEnded(node, bench.Node(node).text + " new");
+                bench.Type(node, bench.Node(node).text + " new");
         }
         for (int number = 1; number < 1000; number += 2)
             expected.append(names[number] + " new");
@@ -509,77 +506,6 @@ private Q_SLOTS:
         QVERIFY(QFile::rename(bench.pin + ".away", bench.pin));
         bench.Save();
         QCOMPARE(bench.Stored(), QStringList("Mine"));
-    }
-
-    void aWebDocumentIsWrittenBack() {
-        Bench bench;
-        bench.Load({"A"});
-        FakeWeb web;
-        const QString url = "http://server/docs/pin.tfmprt";
-        web.server.files[url] = BytesOf(bench.pin);
-        gWebDocument = true;
-        bench.pane->SetPartName("pin", url);
-        bench.Type(2, "Mine");
-        web.server.refusesUploads = true;
-        bench.dialogs.Expect("File save to server failed", Dialogs::Icon::None);
-        bench.Save();
-        QCOMPARE(bench.status.caption, gStrings[96]);
-        QCOMPARE(bench.Texts(), QStringList("Mine"));
-        QVERIFY(bench.CanSave());
-        web.server.refusesUploads = false;
-        bench.Save();
-        QCOMPARE(bench.status.caption, gStrings[97]);
-        QVERIFY(!bench.CanSave());
-        QCOMPARE(web.server.calls, QStringList({"get " + url, "put " + url, "put " + url}));
-        QFile copy(bench.library.Path("copy.tfmprt"));
-        QVERIFY(copy.open(QFile::WriteOnly) && copy.write(web.server.files[url]) > 0);
-        copy.close();
-        bench.pin = copy.fileName();
-        QCOMPARE(bench.Stored(), QStringList("Mine"));
-        gWebDocument = false;
-    }
-
-    void aCopyThatWasGivenUpIsNotWritten() {
-        Bench bench;
-        bench.Load({"A"});
-        FakeWeb web;
-        const QString url = "http://server/docs/pin.tfmprt";
-        web.server.files[url] = BytesOf(bench.pin);
-        gWebDocument = true;
-        bench.pane->SetPartName("pin", url);
-        bench.Type(2, "Mine");
-        const QString copy = gWebCopies.value(url);
-        const QByteArray before = BytesOf(copy);
-        gWebCopies.clear();  // a local document was browsed to
-        bench.dialogs.Expect("*");
-        bench.Save();
-        QVERIFY(bench.dialogs.AllCame());
-        QCOMPARE(bench.Texts(), QStringList("A -> Mine"));  // still to be saved
-        QCOMPARE(BytesOf(copy), before);
-        QCOMPARE(web.server.calls, QStringList("get " + url));
-        gWebDocument = false;
-    }
-
-    void resetKeepsWhatIsStillToBeUploaded() {
-        Bench bench;
-        bench.Load({"A"});
-        FakeWeb web;
-        const QString url = "http://server/docs/pin.tfmprt";
-        web.server.files[url] = BytesOf(bench.pin);
-        gWebDocument = true;
-        bench.pane->SetPartName("pin", url);
-        bench.Type(2, "Mine");
-        web.server.refusesUploads = true;
-        bench.dialogs.Expect("File save to server failed", Dialogs::Icon::None);
-        bench.Save();
-        bench.Type(2, "Other");
-        bench.Child<QPushButton>("ecReset")->click();
-        QCOMPARE(bench.Texts(), QStringList("Mine"));
-        QVERIFY(bench.CanSave());
-        web.server.refusesUploads = false;
-        bench.Save();
-        QCOMPARE(web.server.calls.last(), "put " + url);
-        gWebDocument = false;
     }
 
     void anOpenEditBoxGoesWithThePane() {

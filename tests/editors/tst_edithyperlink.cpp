@@ -2,14 +2,11 @@
 
 #include <QFile>
 
-#include "docmodel/package.h"
 #include "editors/edithyperlink.h"
 #include "services/documentlibrary.h"
-#include "services/webdocument.h"
 #include "tests/editors/editorbench.h"
 #include "tests/support/failingaccess.h"
 #include "tests/support/fakeoutside.h"
-#include "tests/support/fakewebclient.h"
 #include "tests/support/filelockholder.h"
 #include "tests/support/testenvironment.h"
 
@@ -266,75 +263,6 @@ private Q_SLOTS:
         QVERIFY(bench.dialogs.AllCame());
         bench.Save();
         QCOMPARE(bench.Stored(), QStringList("b"));
-    }
-
-    void aWebDocumentIsWrittenBack() {
-        Bench bench;
-        bench.Load({"a"});
-        FakeWeb web;
-        const QString url = "http://server/docs/pin.tfmprt";
-        web.server.files[url] = BytesOf(bench.pin);
-        gWebDocument = true;
-        bench.pane->SetPartName("pin", url);
-        bench.Type(2, "mine");
-        web.server.refusesUploads = true;
-        bench.dialogs.Expect("File save to server failed", Dialogs::Icon::None);
-        bench.Save();
-        QCOMPARE(bench.status.caption, gStrings[111]);
-        web.server.refusesUploads = false;
-        bench.Save();
-        QCOMPARE(bench.status.caption, gStrings[110]);
-        QCOMPARE(web.server.calls.count("put " + url), 2);
-        QVERIFY(!bench.CanSave());
-        QCOMPARE(web.server.files[url], BytesOf(gWebCopies.value(url)));
-        gWebDocument = false;
-    }
-
-    void aCopyThatWasGivenUpIsNotWritten() {
-        Bench bench;
-        bench.Load({"a"});
-        FakeWeb web;
-        const QString url = "http://server/docs/pin.tfmprt";
-        web.server.files[url] = BytesOf(bench.pin);
-        gWebDocument = true;
-        bench.pane->SetPartName("pin", url);
-        bench.Type(2, "mine");
-        const QString copy = gWebCopies.value(url);
-        const QByteArray before = BytesOf(copy);
-        gWebCopies.clear();  // a local document was browsed to
-        bench.dialogs.Expect(SaveErrorBeginning());
-        bench.Save();
-        QVERIFY(bench.dialogs.AllCame());
-        QCOMPARE(bench.status.caption, gStrings[111]);
-        QCOMPARE(bench.Texts(), QStringList(Pending("a", "mine")));  // still to be saved
-        QVERIFY(bench.CanSave());
-        QCOMPARE(BytesOf(copy), before);
-        QCOMPARE(web.server.calls, QStringList("get " + url));
-        gWebDocument = false;
-    }
-
-    void resetKeepsWhatIsStillToBeUploaded() {
-        Bench bench;
-        bench.Load({"a"});
-        FakeWeb web;
-        const QString url = "http://server/docs/pin.tfmprt";
-        web.server.files[url] = BytesOf(bench.pin);
-        gWebDocument = true;
-        bench.pane->SetPartName("pin", url);
-        bench.Type(2, "mine");
-        web.server.refusesUploads = true;
-        bench.dialogs.Expect("File save to server failed", Dialogs::Icon::None);
-        bench.Save();
-        bench.Type(2, "other");
-        bench.Reset();
-        QCOMPARE(bench.Texts(), QStringList("mine"));
-        QVERIFY(bench.CanSave());
-        web.server.refusesUploads = false;
-        bench.Save();
-        QCOMPARE(web.server.calls.last(), "put " + url);
-        QCOMPARE(web.server.files[url], BytesOf(gWebCopies.value(url)));
-        QVERIFY(!bench.CanSave());
-        gWebDocument = false;
     }
 };
 
