@@ -38,7 +38,7 @@ PropertySetBox::PropertySetBox(QWidget* parent)
     ui_->Name1->setCompleter(nullptr);  // what is typed stays what it is
     ui_->Name1->lineEdit()->setMaxLength(kNoLimit);
     ui_->Name1->setValidator(new QRegularExpressionValidator(
-        QRegularExpression(QStringLiteral("[^\\x00-\\x1F]*")), ui_->Name1));
+        QRegularExpression(QStringLiteral("[^\\x00-\\x1F\\x{FFFE}\\x{FFFF}]*")), ui_->Name1));
     ui_->type1->addItems(PropertyTypeLabels());
     ui_->Value1->setMaxLength(kNoLimit);
     SetCaptions();

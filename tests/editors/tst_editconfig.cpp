@@ -436,6 +436,28 @@ private Q_SLOTS:
         QVERIFY(all >= 6);
     }
 
+    // The save is done then, and nothing is left to be tried again.
+    void aDocumentThatCantBeReadBehindItsSaveIsTold() {
+        Bench bench;
+        bool saved = false;
+        {
+            FailingAccess access([&](const char* operation, const QString&) {
+                if (saved)
+                    throw DocumentError("Gone.");
+                saved = operation == QLatin1String("Save");
+            });
+            bench.Load({"A", "B"});
+            bench.Type(2, "X");
+            bench.dialogs.Expect(Format(Text::ConfigurationLoadError, "Gone."));
+            bench.Save();
+            QVERIFY(bench.dialogs.AllCame());
+            QCOMPARE(bench.Tree().Count(), 0);
+            QVERIFY(!bench.CanSave() && !bench.ResetButton()->isEnabled());
+            bench.pane.reset();  // with the objects of this library
+        }
+        QCOMPARE(bench.Stored(), QStringList({"X", "B"}));
+    }
+
     // What was tried and taken back is not written by a later save.
     void aFailedAttemptLeavesNothingBehind() {
         Bench bench;
