@@ -1,6 +1,7 @@
 #include "editors/edithyperlink.h"
 
 #include "editors/hyperlinktree.h"
+#include "editors/pendinguploads.h"
 #include "frame/desccontrol.h"
 #include "services/dialogs.h"
 #include "services/docaccess.h"
@@ -77,17 +78,16 @@ void EditHyperLink::Enable(bool enabled) {
 
 void EditHyperLink::UpdateButtons() {
     const bool pending = hyperlinks_->PendingChanges() > 0;
-    ui_->ecSave->setEnabled(pending || uploadPending_);
+    ui_->ecSave->setEnabled(pending || IsUploadPending(partfilename));
     ui_->ecReset->setEnabled(pending);
 }
 
 void EditHyperLink::SetPartName(const QString& displayName, const QString& path) {
     hyperlinks_->Clear();
-    // What is saved is still to be uploaded, unless its copy was given up.
-    uploadPending_ = uploadPending_ && path == partfilename && gWebCopies.contains(path);
-    UpdateButtons();
+    ForgetGivenUpCopies();
     partDisplayName = displayName;
     partfilename = path;
+    UpdateButtons();
     if (path.isEmpty())
         return;
     ErrorState errors;
@@ -131,8 +131,6 @@ void EditHyperLink::Save() {
         return Warn(Format(Text::HyperlinkSaveError, errors.Description()));
     }
     SetPartName(partDisplayName, partfilename);
-    uploadPending_ = !uploaded;
-    UpdateButtons();
     SetStatusText(uploaded ? Tr(Text::HyperlinksSaved) : Tr(Text::HyperlinksNotSaved));
 }
 
@@ -150,7 +148,7 @@ bool EditHyperLink::Write() {
     const bool changed = hyperlinks_->Write(*newest);
     if (changed)
         newest->SaveHyperlinks();
-    return (!changed && !uploadPending_) || UploadIfWeb(url);
+    return (!changed && !IsUploadPending(partfilename)) || UploadSaved(partfilename, url);
 }
 
 }  // namespace docbench

@@ -3,6 +3,7 @@
 #include <QSignalBlocker>
 #include <limits>
 
+#include "editors/pendinguploads.h"
 #include "editors/propertyrows.h"
 #include "frame/desccontrol.h"
 #include "services/dialogs.h"
@@ -176,8 +177,7 @@ void PropertiesBox::populateSummary(const QString& path) {
 }
 
 void PropertiesBox::Load(const QString& path) {
-    // What is saved is still to be uploaded, unless its copy was given up.
-    uploadPending_ = uploadPending_ && path == partfilename && gWebCopies.contains(path);
+    ForgetGivenUpCopies();
     partfilename = path;
     Blank();
     const auto info = Documents().MakeDocumentInfo();
@@ -190,7 +190,7 @@ void PropertiesBox::Load(const QString& path) {
     customStamp_ = info->GetStamp(PropertyGroup::Custom);
     ListConfigurations();
     populated = true;
-    if (uploadPending_)
+    if (IsUploadPending(path))
         EnableButtons();
     SetStatusText(Format(Text::PropertiesOf, path));
 }
@@ -326,7 +326,7 @@ void PropertiesBox::WriteEdits() {
         return;
     if (summaryDirty || customDirty)
         WriteDocument();
-    else if (uploadPending_)
+    else if (IsUploadPending(partfilename))
         Upload();
 }
 
@@ -369,10 +369,7 @@ void PropertiesBox::WriteDocument() {
 
 // False when the server has not taken what is saved. Raises when its local copy was given up since.
 bool PropertiesBox::Upload() {
-    uploadPending_ = true;
-    UrlToUpload(partfilename, gWebCopies.value(partfilename));
-    uploadPending_ = !UploadIfWeb(partfilename);
-    return !uploadPending_;
+    return UploadSaved(partfilename, UrlToUpload(partfilename, gWebCopies.value(partfilename)));
 }
 
 // What was not written keeps its stamp: the pane still shows it as it was read.

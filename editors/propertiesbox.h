@@ -77,7 +77,6 @@ private:
     QStringList deletedConfigNames;
     int currentConfiguration = -1;
     bool populated = false;
-    bool uploadPending_ = false;  // saved, but the server has not taken it
     bool showDesc_ = true;
 
     // As they were read or last written: what differs on the disk is somebody else's work.

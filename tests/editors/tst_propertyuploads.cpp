@@ -241,12 +241,16 @@ private Q_SLOTS:
         QVERIFY(!bench.ApplyButton()->isEnabled());
     }
 
-    void anotherDocumentHasNothingToUpload() {
+    void anotherDocumentHasNothingToUploadAndKeepsWhatIs() {
         Bench bench;
         bench.Summary(0)->setText("Dowel");
         bench.ApplyRefused();
         bench.pane.SetPartName("other", bench.library.Make("other.tfmprt"));
         QVERIFY(!bench.ApplyButton()->isEnabled());
+        bench.pane.SetPartName("pin", bench.url);
+        bench.Apply();
+        bench.LookAtTheServer();
+        QCOMPARE(bench.Record()->GetTitle(), QString("Dowel"));
     }
 };
 

@@ -124,10 +124,13 @@ void KeepsWhatIsToBeUploaded(bool byReset) {
     bench.Type(2, "mine");
     bench.SaveRefused();
     bench.Type(2, "other");
-    if (byReset)
+    if (byReset) {
         bench.Reset();
-    else
+    } else {
+        bench.pane->SetPartName("other", bench.library.Make("other.tfmprt"));
+        QVERIFY(!bench.CanSave());
         bench.Show();
+    }
     QCOMPARE(bench.Texts(), QStringList("mine"));
     QVERIFY(bench.CanSave());
     bench.Save();
@@ -143,10 +146,6 @@ void ForgetsTheUploadWithTheCopy() {
     gWebCopies.clear();
     bench.Show();
     QCOMPARE(bench.Texts(), QStringList("a"));
-    QVERIFY(!bench.CanSave());
-    bench.Type(2, "mine");
-    bench.SaveRefused();
-    bench.pane->SetPartName("other", bench.library.Make("other.tfmprt"));
     QVERIFY(!bench.CanSave());
 }
 
@@ -168,11 +167,27 @@ private Q_SLOTS:
         KeepsWhatIsToBeUploaded<Configurations>(true);
     }
     void resetKeepsHyperlinksThatAreToBeUploaded() { KeepsWhatIsToBeUploaded<Hyperlinks>(true); }
-    void showingTheDocumentAgainKeepsConfigurationsThatAreToBeUploaded() {
+    void anotherDocumentInBetweenKeepsConfigurationsThatAreToBeUploaded() {
         KeepsWhatIsToBeUploaded<Configurations>(false);
     }
-    void showingTheDocumentAgainKeepsHyperlinksThatAreToBeUploaded() {
+    void anotherDocumentInBetweenKeepsHyperlinksThatAreToBeUploaded() {
         KeepsWhatIsToBeUploaded<Hyperlinks>(false);
+    }
+
+    // The copy is one, whoever writes to it.
+    void whatOneEditorSavedAnotherUploads() {
+        Bench<Hyperlinks> bench;
+        bench.Type(2, "mine");
+        bench.SaveRefused();
+        editConfig other;
+        other.SetPartName("pin", bench.url);
+        auto* save = other.findChild<QPushButton*>("ecSave");
+        QVERIFY(save->isEnabled());
+        save->click();
+        QCOMPARE(bench.OnServer(), QString("mine"));
+        QVERIFY(!save->isEnabled());
+        bench.Show();
+        QVERIFY(!bench.CanSave());
     }
 
     void whatWasToBeUploadedGoesWithItsCopy() {
