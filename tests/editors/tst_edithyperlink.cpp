@@ -144,6 +144,15 @@ private Q_SLOTS:
         QCOMPARE(bench.Stored(), QStringList({"x -> y", "b", "d"}));
     }
 
+    void ofTwoAlikeTheEditedOneIsWritten() {
+        Bench bench;
+        bench.Load({"a", "a", "a"});
+        bench.Type(3, "b");
+        QCOMPARE(bench.Texts(), QStringList({"a", Pending("a", "b"), "a"}));
+        bench.Save();
+        QCOMPARE(bench.Stored(), QStringList({"a", "b", "a"}));
+    }
+
     void longTextsAreKeptWhole() {
         Bench bench;
         const QString text = QString::fromUtf8("http://server/\u00fc_").repeated(6000);
@@ -223,9 +232,11 @@ private Q_SLOTS:
                 QCOMPARE(BytesOf(bench.pin), before);
                 QCOMPARE(bench.Texts(), marks);
                 QCOMPARE(bench.status.caption, gStrings[111]);
+                QVERIFY(bench.CanSave());
                 bench.Save();
             }
             QCOMPARE(bench.Stored(), QStringList({"x", "b", "z"}));
+            QVERIFY(!bench.CanSave());
             all = std::max(all, operations);
         }
         QVERIFY(all >= 5);  // opening, the stamp, two texts, the save
