@@ -29,7 +29,7 @@ bool BrowseMissingFile(const CopyChecks& checks, int row) {
     const QString missing = checks.copies.At(row).cells[kCopySource].tag;
     const QString chosen =
         gSeams.dialogs->OpenFile(Tr(Text::ChooseDocument), FilterFor(missing), FolderOf(missing));
-    if (chosen.isEmpty() || !FileExists(chosen))
+    if (!checks.there() || chosen.isEmpty() || !FileExists(chosen))
         return false;
     checks.replacedFiles.insert(missing, chosen);
     checks.copies.Change(row, [&](CellRow& changed) {
@@ -48,8 +48,12 @@ bool CheckSources(const CopyChecks& checks) {
         const CellRow& shown = checks.copies.At(row);
         if (!ReadCopyRow(shown).missing)
             continue;
-        switch (checks.ask(Format(Text::SourceMissing, shown.cells[kCopySource].text),
-                           {Tr(Text::Yes), Tr(Text::No), Tr(Text::NoToAll), Tr(Text::Cancel)})) {
+        const int answer =
+            checks.ask(Format(Text::SourceMissing, shown.cells[kCopySource].text),
+                       {Tr(Text::Yes), Tr(Text::No), Tr(Text::NoToAll), Tr(Text::Cancel)});
+        if (!checks.there())
+            return false;
+        switch (answer) {
             case kBrowse:
                 if (!BrowseMissingFile(checks, row))
                     return false;
@@ -66,15 +70,20 @@ bool CheckSources(const CopyChecks& checks) {
 }
 
 bool CheckParents(const CopyChecks& checks) {
+    QSet<QString> good;  // a document may have many rows
     for (int row = 0; row < checks.parents.Count(); ++row) {
         const ParentRow parent = ReadParentRow(checks.parents.At(row));
         const bool onlyCopied =
             DocTypeOf(parent.parent) == DocType::Drawing && parent.state == ParentState::Copy;
-        if (!parent.ticked || onlyCopied)
+        if (!parent.ticked || onlyCopied || good.contains(parent.parent))
             continue;
         const int code = Documents().MakeDocumentFile()->GetAccessState(LocalCopyOf(parent.parent));
-        if (code == 0)
+        if (!checks.there())
+            return false;
+        if (code == 0) {
+            good.insert(parent.parent);
             continue;
+        }
         RefuseParent(checks.parents, row);
         ReportAccessState(code, parent.parent);
         return false;
@@ -124,7 +133,7 @@ private:
         enum Answer { kCreate = 0, kCreateAll = 1 };
         const int answer = checks_.ask(Format(Text::CreateFolderQuestion, folder),
                                        {Tr(Text::Yes), Tr(Text::YesToAll), Tr(Text::No)});
-        if (answer != kCreate && answer != kCreateAll)
+        if (!checks_.there() || (answer != kCreate && answer != kCreateAll))
             return false;
         createAll_ = answer == kCreateAll;
         CreateFolderPath(folder);  // should that fail, the copy of each file tells it

@@ -18,6 +18,8 @@ struct CopyChecks {
     QHash<QString, QString>& replacedFiles;  // gets the files chosen in place of missing ones
     // Shows a question with a button for each caption; the index of the one pressed, -1 for none.
     std::function<int(const QString& question, const QStringList& buttons)> ask;
+    // False: the lists are gone, behind one of the boxes.
+    std::function<bool()> there = [] { return true; };
 };
 
 // What refused a copy wants of the field with the target.

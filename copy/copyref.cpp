@@ -42,7 +42,7 @@ void Warn(const QString& text) {
 }
 
 int AskWithButtons(const QString& question, const QStringList& buttons, QWidget* parent) {
-    FileMissingDialog dialog(parent);
+    FileMissingDialog dialog(parent->window());  // which the pane may leave alone
     dialog.init(question);
     dialog.SetNumberOfButton(int(buttons.size()));
     for (int i = 0; i < buttons.size(); ++i)
@@ -66,7 +66,10 @@ copyRef::copyRef(QWidget* parent) : Pane(parent), ui_(std::make_unique<Ui::copyR
     ShowLists();
 }
 
-copyRef::~copyRef() = default;
+copyRef::~copyRef() {
+    if (editDialog_)
+        editDialog_->reject();
+}
 
 CellList& copyRef::Copies() {
     return ui_->lv_0->List();
@@ -270,6 +273,11 @@ void copyRef::EnablePaneControls(bool enabled) {
         control->setEnabled(enabled);
 }
 
+void copyRef::EnableAffixOptions(bool enabled) {
+    for (QRadioButton* option : {ui_->OptionPrefix_0, ui_->OptionPrefix_1})
+        option->setEnabled(enabled);
+}
+
 void copyRef::EnableListButtons() {
     for (QPushButton* button : {ui_->cmdReplace, ui_->selectall})
         button->setEnabled(Copies().Count() > 0);
@@ -305,9 +313,13 @@ void copyRef::OnChildren(bool ticked) {
     const int load = loads_;
     const QPointer<copyRef> alive(this);
     EnablePaneControls(false);
+    EnableAffixOptions(false);
     ShowLists();
     BuildCopyList(mDocumentPath);
-    if (!alive || load != loads_)
+    if (!alive)
+        return;
+    EnableAffixOptions(true);
+    if (load != loads_)
         return;
     if (ticked || !ui_->whereused->isChecked())
         ShowTargetControls(ticked);
@@ -346,6 +358,7 @@ void copyRef::SearchParents() {
     const int load = loads_;
     const auto gone = [alive, load] { return !alive || alive->loads_ != load; };
     EnablePaneControls(false);
+    EnableAffixOptions(false);  // the rows that arrive have the affixes of now
     mStopSearch = false;
     searching_ = true;
     ui_->Findnow->setText(Tr(Text::Stop));
@@ -369,8 +382,10 @@ void copyRef::SearchParents() {
         .targetFolder = FolderText(),
         .affixes = {mPrefix, mSuffix}};
     docbench::SearchParents(parents, mLookIn, rows);
-    if (alive)
-        searching_ = false;
+    if (!alive)
+        return;
+    searching_ = false;
+    EnableAffixOptions(true);
     if (gone())
         return;
     rows.Flush();
@@ -384,10 +399,11 @@ void copyRef::SearchParents() {
 void copyRef::ChooseScope() {
     SearchScope scope = scope_;
     scope.Lookin.clear();  // stays so on cancel
-    SearchDialog dialog(scope, this);
+    SearchDialog dialog(scope, window());
+    const QPointer<copyRef> alive(this);
     dialog.init(mLookIn, scope_.subfolders, scope_.inContext, scope_.references, scope_.mirrored);
     dialog.exec();
-    if (scope.Lookin.isEmpty())
+    if (!alive || scope.Lookin.isEmpty())
         return;
     scope_ = scope;
     mLookIn = scope.Lookin;
@@ -399,15 +415,20 @@ void copyRef::ResetParents() {
 }
 
 bool copyRef::CheckBeforeCopy() {
-    const CheckOutcome outcome = docbench::CheckBeforeCopy(
-        {.source = ui_->oldname->text(),
-         .target = ui_->toFile->text(),
-         .copies = Copies(),
-         .parents = Parents(),
-         .replacedFiles = mReplacedFiles,
-         .ask = [this](const QString& question, const QStringList& buttons) {
-             return AskWithButtons(question, buttons, this);
-         }});
+    const QPointer<copyRef> alive(this);
+    const CheckOutcome outcome =
+        docbench::CheckBeforeCopy({.source = ui_->oldname->text(),
+                                   .target = ui_->toFile->text(),
+                                   .copies = Copies(),
+                                   .parents = Parents(),
+                                   .replacedFiles = mReplacedFiles,
+                                   .ask =
+                                       [this](const QString& question, const QStringList& buttons) {
+                                           return AskWithButtons(question, buttons, this);
+                                       },
+                                   .there = [alive] { return !alive.isNull(); }});
+    if (!alive)
+        return false;
     if (outcome == CheckOutcome::RefusedTarget || outcome == CheckOutcome::RefusedTargetType)
         ui_->toFile->setFocus();
     if (outcome == CheckOutcome::RefusedTargetType)
@@ -415,14 +436,28 @@ bool copyRef::CheckBeforeCopy() {
     return outcome == CheckOutcome::Ok;
 }
 
+// A document that comes behind one of the boxes waits for the end.
 void copyRef::Apply() {
-    if (running_ || !CheckBeforeCopy())
+    if (running_)
         return;
     running_ = true;
+    const QPointer<copyRef> alive(this);
+    if (CheckBeforeCopy())
+        CarryOut();
+    if (!alive)
+        return;
+    running_ = false;
+    if (!pending_)
+        return;
+    const Load load = *std::exchange(pending_, std::nullopt);
+    SetPartName(load.partName, load.fullpath, load.treefullpath);
+}
+
+void copyRef::CarryOut() {
     EnablePaneControls(false);
+    EnableAffixOptions(false);
     for (QWidget* control :
-         std::initializer_list<QWidget*>{ui_->cmdReplace, ui_->selectall, ui_->OptionPrefix_0,
-                                         ui_->OptionPrefix_1, ui_->lv_0, ui_->lv_1})
+         std::initializer_list<QWidget*>{ui_->cmdReplace, ui_->selectall, ui_->lv_0, ui_->lv_1})
         control->setEnabled(false);
     const QPointer<copyRef> alive(this);
     CopyResult result;
@@ -440,16 +475,13 @@ void copyRef::Apply() {
         return;
     running_ = false;
     ui_->lblProgress->clear();
-    for (QWidget* control : std::initializer_list<QWidget*>{
-             ui_->OptionPrefix_0, ui_->OptionPrefix_1, ui_->lv_0, ui_->lv_1})
-        control->setEnabled(true);
+    EnableAffixOptions(true);
+    for (CellListView* list : {ui_->lv_0, ui_->lv_1})
+        list->setEnabled(true);
     if (errors.Failed())
         Warn(errors.Description());
-    EndRun(result);
-    if (!alive || !pending_)
-        return;
-    const Load load = *std::exchange(pending_, std::nullopt);
-    SetPartName(load.partName, load.fullpath, load.treefullpath);
+    if (alive)
+        EndRun(result);
 }
 
 CopyProgress copyRef::Progress() {
@@ -469,7 +501,8 @@ CopyProgress copyRef::Progress() {
             [alive = QPointer<copyRef>(this)] {
                 QCoreApplication::processEvents();
                 return !alive.isNull();
-            }};
+            },
+        .there = [alive = QPointer<copyRef>(this)] { return !alive.isNull(); }};
 }
 
 void copyRef::BringIntoView(CopyProgress::List which, int row) {
@@ -545,10 +578,13 @@ void copyRef::OpenParentRow() {
 }
 
 void copyRef::Export(const std::optional<TextTable>& table) {
+    const QPointer<copyRef> alive(this);
     if (!table)
         return Warn(Tr(Text::ExportEmpty));
     QString where;
     const bool done = ExportToSpreadsheet(table, &where);
+    if (!alive)
+        return;
     SetStatusText(done ? Format(Text::ExportDone, int(table->size()) - 1)
                        : QString(Tr(Text::ExportFailed)));
     ui_->lblProgress->setText(where);

@@ -98,6 +98,8 @@ private:
     bool CheckBeforeCopy();
     void Apply();
     CopyProgress Progress();
+    void CarryOut();
+    void EnableAffixOptions(bool enabled);
     void BringIntoView(CopyProgress::List which, int row);
     void EndRun(const CopyResult& result);
     void ShowOutcome(const Cell& target);

@@ -41,11 +41,11 @@ public:
             return Ended(End::Gone);
         for (size_t i = 1; i < copies_.size(); ++i) {
             if (!CopyRowOf(copies_[i], plan_.copies, List::Copies))
-                return Ended(End::Cancelled);
+                return Ended(progress_.there() ? End::Cancelled : End::Gone);
         }
         for (const PlannedCopy& copy : parents_) {
             if (!CopyRowOf(copy, plan_.parents, List::Parents))
-                return Ended(End::Cancelled);
+                return Ended(progress_.there() ? End::Cancelled : End::Gone);
         }
         if (BringToDisk() && !RewriteReferences(plan_, files_, progress_, result_.target))
             return Ended(End::Gone);
@@ -97,7 +97,7 @@ private:
         return result_.end == End::Done;
     }
 
-    // False: the user cancelled.
+    // False: the user cancelled, or the lists are gone.
     bool CopyRowOf(const PlannedCopy& copy, CellList& list, List which) {
         const int column = which == List::Copies ? int(kCopyTarget) : int(kParentTarget);
         const auto show = [&](CellColor color, const QString& toolTip) {
@@ -119,7 +119,10 @@ private:
             progress_.step(++done_, all_, copy.target);
             show(kColorBlue, before.toolTip);
         } else {
-            goesOn = Show(Copy(copy), before, show, [&](const QString& reason) {
+            const CopyOutcome outcome = Copy(copy);
+            if (!progress_.there())
+                return false;
+            goesOn = Show(outcome, before, show, [&](const QString& reason) {
                 list.Change(copy.row, [&](CellRow& row) { row.cells[0].toolTip = reason; });
             });
         }

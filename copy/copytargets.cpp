@@ -128,11 +128,14 @@ void copyRef::Refuse(QLineEdit* field) {
 }
 
 void copyRef::BrowseFile() {
+    const QPointer<copyRef> alive(this);
     const QString source = ui_->oldname->text();
     const QString name =
         gWebDocument ? PickWebDocument(this)
                      : gSeams.dialogs->SaveFile(Tr(Text::ChooseDocument), FilterFor(source),
                                                 FolderOf(source) + FileNameOf(ui_->toFile->text()));
+    if (!alive)
+        return;
     if (!name.isEmpty()) {
         if (gWebDocument || ValidateTargetFile(name))
             ui_->toFile->setText(name);
@@ -144,8 +147,9 @@ void copyRef::BrowseFile() {
 }
 
 void copyRef::BrowseFolder() {
+    const QPointer<copyRef> alive(this);
     const QString folder = BrowseForFolder(FolderText(), Tr(Text::CopyTargetWhat));
-    if (folder.isEmpty())
+    if (!alive || folder.isEmpty())
         return;
     ui_->targetPath->setText(folder);
     RecomputeTargets(true);
@@ -160,9 +164,11 @@ void copyRef::ChooseTarget(CellListView* list, int row) {
     const bool isLocked = !ui_->toFile->isEnabled();  // a copy runs, or is done
     if (path.isEmpty() || !hasTarget || isLocked)
         return;
+    const QPointer<copyRef> alive(this);
+    const int load = loads_;
     const QString name = gSeams.dialogs->SaveFile(Tr(Text::ChooseDocument), FilterFor(path),
                                                   FolderText() + u'/' + FileNameOf(path));
-    if (name.isEmpty())
+    if (!alive || load != loads_ || name.isEmpty())
         return;
     if (!isCopy)
         return SetParentTarget(Parents(), row, name);
@@ -176,7 +182,7 @@ void copyRef::ChooseTarget(CellListView* list, int row) {
 }
 
 void copyRef::ReplaceInTargets() {
-    editDialog dialog(this);
+    editDialog dialog(window());
     editDialog_ = &dialog;
     dialog.setListView(ui_->lv_0);
     dialog.exec();

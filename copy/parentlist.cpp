@@ -158,8 +158,8 @@ RowBatch ParentRows(CellList& list) {
 void GoToNextState(CellList& list, int index) {
     const bool readOnly = IsReadOnlyFile(FileOf(list.At(index)));
     if (readOnly && !IsDrawing(list.At(index))) {
-        gSeams.dialogs->Box(Tr(Text::ParentReadOnly), Dialogs::Icon::Exclamation, gAppTitle);
         list.Change(index, [&](CellRow& row) { MarkReadOnly(list, row); });
+        gSeams.dialogs->Box(Tr(Text::ParentReadOnly), Dialogs::Icon::Exclamation, gAppTitle);
         return;
     }
     list.Change(index, [&](CellRow& row) {

@@ -6,8 +6,9 @@
 
 namespace docbench {
 
-ReferenceMap::ReferenceMap(const CopyPlan& plan, const QHash<QString, QString>& madeFrom)
-    : plan_(plan), madeFrom_(madeFrom) {
+ReferenceMap::ReferenceMap(const CopyPlan& plan, const QHash<QString, QString>& madeFrom,
+                           bool hasOwnCopy)
+    : plan_(plan), madeFrom_(madeFrom), hasOwnCopy_(hasOwnCopy) {
     for (int row = 0; row < plan.copies.Count(); ++row) {
         const CopyRow shown = ReadCopyRow(plan.copies.At(row));
         QList<int>& exact = exact_[shown.source];
@@ -60,7 +61,7 @@ std::optional<QString> ReferenceMap::FirstCopy(const QList<int>& rows) const {
 }
 
 std::optional<QString> ReferenceMap::OwnCopy() const {
-    return IsThere(plan_.target) ? std::optional(plan_.target) : std::nullopt;
+    return hasOwnCopy_ && IsThere(plan_.target) ? std::optional(plan_.target) : std::nullopt;
 }
 
 // What is on a server was uploaded a moment ago.

@@ -39,12 +39,6 @@ QString KeyOf(const QString& source, const QString& target) {
     return source + u'\n' + TargetKey(target);
 }
 
-// False: all that is left is to stay as it is.
-bool AskToGoOn(const QString& question, const QString& reason) {
-    return gSeams.dialogs->Box(question, Dialogs::Icon::Exclamation, gAppTitle,
-                               Dialogs::Buttons::YesNo, reason) == Dialogs::Answer::Yes;
-}
-
 class Rewriter {
 public:
     Rewriter(const CopyPlan& plan, const CopiedFiles& files, const CopyProgress& progress,
@@ -53,7 +47,8 @@ public:
           files_(files),
           progress_(progress),
           targetCell_(targetCell),
-          map_(plan, files.madeFrom),
+          isMade_(files.sourceStatus != CopyStatus::Failed || plan.source == plan.target),
+          map_(plan, files.madeFrom, isMade_),
           sourceDoc_(Documents().MakeDocumentFile()),
           targetDoc_(Documents().MakeDocumentFile()) {}
 
@@ -65,6 +60,7 @@ private:
     Next RewriteSource();
     Next RewriteRow(int row);
     Next RewriteParent(int row);
+    Next AskToGoOn(const QString& question, const QString& reason = {}) const;
 
     // A copy that was not made is the reason why it can't be opened.
     const QString& ReasonFor(const QString& error) const {
@@ -86,6 +82,7 @@ private:
     const CopiedFiles& files_;
     const CopyProgress& progress_;
     Cell& targetCell_;
+    const bool isMade_;  // the document's own copy, or one that the user kept
     const ReferenceMap map_;
     std::unique_ptr<DocumentFile> sourceDoc_;
     std::unique_ptr<DocumentFile> targetDoc_;
@@ -101,20 +98,27 @@ private:
 bool Rewriter::Run() {
     all_ = CountAll();
     if (RewriteSource() == Next::End)
-        return true;
+        return progress_.there();
     for (int row = 0; row < plan_.copies.Count(); ++row) {
         if (HasCopy(plan_.copies.At(row)) && RewriteRow(row) == Next::End)
-            return true;
+            return progress_.there();
     }
     for (int row = 0; row < plan_.parents.Count(); ++row) {
         if (!plan_.parents.At(row).ticked)
             continue;
         if (RewriteParent(row) == Next::End)
-            return true;
+            return progress_.there();
         if (!progress_.yield())
             return false;
     }
     return true;
+}
+
+// End: all that is left is to stay as it is.
+Rewriter::Next Rewriter::AskToGoOn(const QString& question, const QString& reason) const {
+    const Dialogs::Answer answer = gSeams.dialogs->Box(question, Dialogs::Icon::Exclamation,
+                                                       gAppTitle, Dialogs::Buttons::YesNo, reason);
+    return answer == Dialogs::Answer::Yes && progress_.there() ? Next::Row : Next::End;
 }
 
 int Rewriter::CountAll() const {
@@ -148,7 +152,8 @@ DocumentFile& Rewriter::OpenCopy(const QString& source, const QString& target, b
 
 // What stands at the target of a row is no copy: it was there before, and the user kept it.
 bool Rewriter::WasKept(const QString& target) const {
-    return !files_.madeFrom.contains(TargetKey(target)) && !IsWebPath(target) && FileExists(target);
+    return !files_.madeFrom.contains(TargetKey(target)) &&
+           (IsWebPath(target) || FileExists(target));
 }
 
 // Two rows with one target: what stands there is the copy of one of them.
@@ -211,8 +216,13 @@ Rewriter::Next Rewriter::RewriteSource() {
     const bool sameTables = files_.sourceStatus != CopyStatus::Kept;
     DocumentFile* writing = nullptr;
     bool modified = false;
-    if (!errors.Run([&] { writing = &OpenCopy(plan_.source, plan_.target, sameTables); })) {
-        if (!AskToGoOn(Format(Text::CopyNotOpened, plan_.target), ReasonFor(errors.Description())))
+    if (!errors.Run([&] {
+            if (!isMade_)
+                throw DocumentError(files_.sourceReason);  // what stands there is no copy of it
+            writing = &OpenCopy(plan_.source, plan_.target, sameTables);
+        })) {
+        if (AskToGoOn(Format(Text::CopyNotOpened, plan_.target), ReasonFor(errors.Description())) ==
+            Next::End)
             return Next::End;
     } else {
         modified = PointToCopies(*writing, plan_.source, sameTables, errors);
@@ -225,6 +235,8 @@ Rewriter::Next Rewriter::RewriteSource() {
             written_.insert(TargetKey(plan_.target));
             UploadIfWeb(plan_.target);
         });
+    if (!progress_.there())
+        return Next::End;  // behind the box of an upload
     if (!errors.Failed()) {
         targetCell_.foreColor = kColorBlue;
         if (untold.isEmpty())
@@ -235,9 +247,7 @@ Rewriter::Next Rewriter::RewriteSource() {
     }
     targetCell_.foreColor = kColorRed;
     targetCell_.toolTip = Format(Text::NotUpdatedTip, errors.Description());
-    return AskToGoOn(Format(Text::NotSaved, plan_.target, errors.Description()), QString())
-               ? Next::Row
-               : Next::End;
+    return AskToGoOn(Format(Text::NotSaved, plan_.target, errors.Description()));
 }
 
 Rewriter::Next Rewriter::RewriteRow(int index) {
@@ -266,9 +276,7 @@ Rewriter::Next Rewriter::RewriteRow(int index) {
         })) {
         tell(errors.Description());
         progress_.rowInQuestion(CopyProgress::List::Copies, index);
-        return AskToGoOn(Format(Text::NotOpened, row.source, errors.Description()), QString())
-                   ? Next::Row
-                   : Next::End;
+        return AskToGoOn(Format(Text::NotOpened, row.source, errors.Description()));
     }
     const bool modified = PointToCopies(*writing, row.source, true, errors);
     const bool complete = !errors.Failed();
@@ -289,9 +297,7 @@ Rewriter::Next Rewriter::RewriteRow(int index) {
     paint(kColorRed);
     tell(errors.Description());
     progress_.rowInQuestion(CopyProgress::List::Copies, index);
-    return AskToGoOn(Format(Text::NotSaved, row.target, errors.Description()), QString())
-               ? Next::Row
-               : Next::End;
+    return AskToGoOn(Format(Text::NotSaved, row.target, errors.Description()));
 }
 
 // The position of a row is good for one state of the table: the one that the search saw, or the
@@ -339,6 +345,8 @@ Rewriter::Next Rewriter::RewriteParent(int index) {
     const ParentRow row = ReadParentRow(plan_.parents.At(index));
     const QString saved = row.state == ParentState::Copy ? row.target : row.parent;
     Count(saved);
+    if (row.state == ParentState::Copy && WasKept(row.target))
+        return Next::Row;
     const auto show = [&](CellColor color, const QString& toolTip) {
         plan_.parents.Change(index, [&](CellRow& changed) {
             changed.cells[kParentHolder].foreColor = color;
@@ -356,9 +364,7 @@ Rewriter::Next Rewriter::RewriteParent(int index) {
     progress_.status(Format(Text::UpdatingReferences, saved));
     if (errors.Failed()) {
         show(kColorRed, Format(Text::ParentNotOpenedTip, errors.Description()));
-        return AskToGoOn(Format(Text::NotOpened, row.parent, errors.Description()), QString())
-                   ? Next::Row
-                   : Next::End;
+        return AskToGoOn(Format(Text::NotOpened, row.parent, errors.Description()));
     }
     const bool modified = PointParent(*writing, row, errors);
     const QString untold = errors.Description();
@@ -370,13 +376,14 @@ Rewriter::Next Rewriter::RewriteParent(int index) {
                 writing->GetStamp(TableOf(row.external));
             UploadIfWeb(saved);
         });
+    if (!progress_.there())
+        return Next::End;
     if (!errors.Failed()) {
         show(kColorBlue, untold.isEmpty() ? QString() : Format(Text::NotUpdatedTip, untold));
         return Next::Row;
     }
     show(kColorRed, Format(Text::NotUpdatedTip, errors.Description()));
-    return AskToGoOn(Format(Text::NotSaved, saved, errors.Description()), QString()) ? Next::Row
-                                                                                     : Next::End;
+    return AskToGoOn(Format(Text::NotSaved, saved, errors.Description()));
 }
 
 }  // namespace

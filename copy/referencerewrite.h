@@ -30,6 +30,8 @@ struct CopyProgress {
     std::function<void(List list, int row)> rowInQuestion;
     // Lets events in. False: whoever shows the lists is gone, and so are they.
     std::function<bool()> yield;
+    // The same answer without events; asked behind each box, since all may be gone by then.
+    std::function<bool()> there = [] { return true; };
 };
 
 // Colour and tool tip of `targetCell` tell how the document itself went, those of the rows the

@@ -199,6 +199,10 @@ private:
             // Nothing depends on it yet: the disk begins now and is waited for once, by Sync.
             sync_file_range(copy.Get(), 0, 0, SYNC_FILE_RANGE_WRITE);
         }
+        // Disks across a network tell at a close what they could not write.
+        const int again = dup(copy.Get());
+        if (again < 0 || close(again) != 0)
+            Fail(errno);
         if (copy.Place(target_, ifThere_))
             return true;
         if (errno != EEXIST || ifThere_ == FileSystem::IfThere::Replace)
@@ -227,9 +231,23 @@ bool CopyWholeFile(const QString& from, const QString& to, FileSystem::IfThere i
     return FileCopy(from, to, ifThere).Run();
 }
 
+bool MoveByPlaceholder(const char* from, const char* to) {
+    const int place = open(to, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (place < 0)
+        return false;
+    close(place);
+    if (std::rename(from, to) == 0)
+        return true;
+    const int error = errno;
+    unlink(to);
+    errno = error;
+    return false;
+}
+
 bool MoveByLink(const char* from, const char* to) {
     if (link(from, to) != 0)
-        return false;
+        return (errno == EPERM || errno == EOPNOTSUPP || errno == ENOSYS) &&
+               MoveByPlaceholder(from, to);
     if (unlink(from) == 0)
         return true;
     const int error = errno;

@@ -18,4 +18,7 @@ bool RenameUnlessThere(const QByteArray& from, const QByteArray& to);
 // The same for disks that can't rename without replacing: a second name, then the first one goes.
 bool MoveByLink(const char* from, const char* to);
 
+// The same for disks without second names: an empty file takes the name, and is replaced.
+bool MoveByPlaceholder(const char* from, const char* to);
+
 }  // namespace docbench

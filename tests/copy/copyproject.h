@@ -39,8 +39,9 @@ public:
             return answer(text);
         return buttons == Buttons::Ok ? Answer::Ok : Answer::Yes;
     }
-    QString OpenFile(const QString&, const QString&, const QString&) override { return file; }
-    QString BrowseFolder(const QString&, const QString&) override { return {}; }
+    QString OpenFile(const QString&, const QString&, const QString&) override { return FileNow(); }
+    QString SaveFile(const QString&, const QString&, const QString&) override { return FileNow(); }
+    QString BrowseFolder(const QString&, const QString&) override { return FileNow(); }
     std::optional<Password> AskPassword(const QString&, const QString&, bool) override {
         return std::nullopt;
     }
@@ -48,9 +49,15 @@ public:
     QStringList boxes;
     QStringList details;
     std::function<Answer(const QString& text)> answer;  // Yes or Ok without it
-    QString file;                                       // that OpenFile gives
+    QString file;                                       // that the dialogs for files give
+    std::function<void()> onFile;                       // happens while one of them is on screen
 
 private:
+    QString FileNow() const {
+        if (onFile)
+            onFile();
+        return file;
+    }
     Dialogs* former_;
 };
 

@@ -20,11 +20,14 @@ public:
     FakeSpreadsheet() { gSeams.spreadsheet = this; }
     ~FakeSpreadsheet() override { gSeams.spreadsheet = nullptr; }
     QString Show(const TextTable& table) override {
+        if (shows)
+            shows();
         shown = table;
         return fails ? QString() : QString("/docs/list.xlsx");
     }
     TextTable shown;
     bool fails = false;
+    std::function<void()> shows;  // meanwhile
 };
 
 const char* const kInputs[] = {"apply",  "browse", "Findnow",    "searchrule", "targetPath",
@@ -305,10 +308,12 @@ private Q_SLOTS:
             form->findChild<QPushButton*>("ReplaceButton")->click();
             QCOMPARE(bench.View(0)->SelectedRow(), 1);
             form->findChild<QPushButton*>("replaceallButton")->click();
-            form->findChild<QCheckBox*>("MatchCase")->setChecked(false);
             form->findChild<QLineEdit*>("FindtextBox")->setText("LEFT");
-            bench.dialogs.Expect(Format(Text::TextNotFound, QString("LEFT")));
-            form->findChild<QPushButton*>("findNext")->click();
+            for (const bool matches : {true, false}) {  // makes no difference
+                form->findChild<QCheckBox*>("MatchCase")->setChecked(matches);
+                bench.dialogs.Expect(Format(Text::TextNotFound, QString("LEFT")));
+                form->findChild<QPushButton*>("findNext")->click();
+            }
             QTest::keyClick(form, Qt::Key_Escape);
         });
         bench.Click("cmdReplace");
@@ -363,6 +368,98 @@ private Q_SLOTS:
         QCOMPARE(bench.status.caption, gStrings[62]);
         QVERIFY(bench.IsEnabled("apply") && bench.IsEnabled("cmdReplace"));
         QCOMPARE(updated.count(), 0);
+    }
+
+    void noWhileReferencesAreWrittenStillEndsTheRun() {
+        CopyBench bench;
+        bench.Load();
+        AnsweringDialogs dialogs;
+        dialogs.answer = [](const QString&) { return Dialogs::Answer::No; };
+        const FailingAccess failing([](const char* operation, const QString&) {
+            if (operation == QLatin1String("Save"))
+                throw DocumentError("no room");
+        });
+        bench.Click("apply");
+        QCOMPARE(dialogs.boxes.size(), 1);
+        QCOMPARE(bench.status.caption, Format(Text::CopyDone, 3, 0));
+    }
+
+    void prefixOrSuffixWaitsForTheEndOfASearch() {
+        CopyBench bench;
+        bench.Load();
+        bool isSeen = false;
+        QTimer::singleShot(0, bench.pane, [&] {
+            isSeen = true;
+            QVERIFY(!bench.IsEnabled("OptionPrefix_0") && !bench.IsEnabled("OptionPrefix_1"));
+        });
+        bench.Click("Findnow");
+        QVERIFY(isSeen);
+        bench.Child<QRadioButton>("OptionPrefix_1")->click();
+        QCOMPARE(bench.Target(0).tag, bench.folder + "/leftx_.tfmasm");
+    }
+
+    void thePaneMayGoAwayBehindEachOfItsBoxes_data() {
+        QTest::addColumn<QString>("which");
+        for (const char* which : {"missing source", "target that is there", "reference not written",
+                                  "row's target", "folder", "scope", "export", "find and replace"})
+            QTest::newRow(which) << which;
+    }
+    void thePaneMayGoAwayBehindEachOfItsBoxes() {
+        QFETCH(QString, which);
+        QWidget host;  // which gives up the pane, and stays itself
+        CopyBench bench;
+        bench.pane->setParent(&host);
+        host.show();
+        bench.pane->show();
+        bench.Load();
+        AnsweringDialogs dialogs;
+        dialogs.answer = [&](const QString&) {
+            delete bench.pane;
+            return Dialogs::Answer::Yes;
+        };
+        dialogs.onFile = [&] { delete bench.pane; };
+        const auto click = [&](const char* name) {
+            QMetaObject::invokeMethod(bench.Button(name), "click");
+        };
+        if (which == "missing source") {
+            QFile::remove(bench.pin);
+            bench.pane->SetPartName("top", bench.top, bench.top);
+            bench.Check("children", false);
+            bench.Check("children");
+            QTimer::singleShot(0, qApp, [&] {
+                auto* form = qobject_cast<FileMissingDialog*>(QApplication::activeModalWidget());
+                delete bench.pane;
+                Choose(form, 0);
+            });
+            click("apply");
+        } else if (which == "target that is there") {
+            bench.library.Make("new/x_left.tfmasm");
+            click("apply");
+        } else if (which == "reference not written") {
+            const FailingAccess failing([](const char* operation, const QString&) {
+                if (operation == QLatin1String("Save"))
+                    throw DocumentError("no room");
+            });
+            click("apply");
+        } else if (which == "row's target") {
+            Q_EMIT bench.View(0)->Activated(0);
+        } else if (which == "folder") {
+            click("browse");
+        } else if (which == "scope" || which == "find and replace") {
+            QTimer::singleShot(0, qApp, [&] {
+                QPointer<QWidget> form = QApplication::activeModalWidget();
+                delete bench.pane;
+                if (form)
+                    qobject_cast<QDialog*>(form)->accept();
+            });
+            click(which == "scope" ? "searchrule" : "cmdReplace");
+        } else {
+            FakeSpreadsheet spreadsheet;
+            spreadsheet.fails = true;
+            spreadsheet.shows = [&] { delete bench.pane; };
+            QMetaObject::invokeMethod(bench.pane->findChild<QAction*>("mnexport"), "trigger");
+        }
+        QVERIFY(!bench.pane);
     }
 
     void cancelInTheMiddleFreesThePaneButForTheListsButtons() {

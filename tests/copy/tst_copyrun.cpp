@@ -105,10 +105,12 @@ private Q_SLOTS:
         Desk desk;
         const QStringList before = TreeOf(desk.top);
         desk.Run();
-        QStringList after = TreeOf(desk.Copy("x_top.tfmasm"));
+        const QStringList after = TreeOf(desk.Copy("x_top.tfmasm"));
         QCOMPARE(after.size(), before.size());
-        for (qsizetype i = 0; i < after.size(); ++i)
-            QCOMPARE(after[i].replace(" x_", " "), before[i]);
+        for (qsizetype i = 0; i < after.size(); ++i) {
+            QString expected = before[i];  // "DEPTH NAME"
+            QCOMPARE(after[i], expected.insert(expected.indexOf(' ') + 1, "x_"));
+        }
     }
 
     void aPartUsedTwiceIsCopiedOnceAndCountedOnce() {
@@ -260,6 +262,48 @@ private Q_SLOTS:
                  QString("new/x_left.tfmasm new/sub/x_right.tfmasm new/x_pin.tfmprt"));
     }
 
+    void aDocumentThatIsItsOwnTargetIsAskedAboutAndNotCopied() {
+        Desk desk;
+        desk.target = desk.top;
+        QString reason;
+        desk.Run();
+        QCOMPARE(desk.dialogs.boxes, QStringList(Format(Text::OverwriteQuestion, desk.top)));
+        QCOMPARE(desk.status.filter(Format(Text::CopyingTo, desk.top)).size(), 1);
+    }
+
+    // What stands at the target then is somebody's, and no user of the document may lead there.
+    void aDocumentWhoseCopyFailsOverAnExistingTargetHasNone() {
+        Desk desk;
+        desk.List(desk.pin);
+        const QString user = desk.library.Make("user.tfmasm", {{desk.pin}});
+        const QString there = desk.library.Make("new/x_pin.tfmprt");
+        const QByteArray before = BytesOf(there);
+        desk.FindParents();
+        FakeFiles files;
+        files.before = [](const QString&, const QString&) { throw DocumentError("no room"); };
+        const CopyResult result = desk.Run();
+        QVERIFY(result.end == CopyResult::End::Done);
+        QCOMPARE(desk.dialogs.boxes.first(), Format(Text::OverwriteQuestion, there));
+        QCOMPARE(desk.dialogs.boxes[1], Format(Text::CopyNotOpened, there));
+        QCOMPARE(desk.dialogs.details[1], QString("no room"));
+        QCOMPARE(BytesOf(there), before);
+        QCOMPARE(desk.Holds(user), QString("pin.tfmprt"));
+    }
+
+    void aKeptTargetOfADrawingIsLeftAlone() {
+        Desk desk;
+        desk.library.Make("top.tfmdrw", {{desk.top}});
+        const QString kept = desk.library.Make("new/x_top.tfmdrw", {{desk.top}});
+        const QByteArray before = BytesOf(kept);
+        desk.FindParents();
+        desk.dialogs.answer = [](const QString&) { return Answer::No; };
+        desk.Run();
+        QCOMPARE(desk.dialogs.boxes, QStringList(Format(Text::OverwriteQuestion, kept)));
+        QCOMPARE(BytesOf(kept), before);
+        QCOMPARE(desk.parents.At(0).cells[kParentTarget].toolTip, gStrings[64]);
+        QVERIFY(desk.parents.At(0).cells[kParentHolder].foreColor == kColorNormal);
+    }
+
     void aKeptTargetWhoseTableIsAnotherKeepsItsOtherReferences() {
         Desk desk;
         const QString clamp = desk.library.Make("clamp.tfmprt");
@@ -358,7 +402,7 @@ private Q_SLOTS:
         desk.Write(desk.target, "a copy");
         const QHash<QString, QString> madeFrom = {
             {TargetKey(desk.Copy("x_pin.tfmprt")), desk.library.Path("pin.tfmprt")}};
-        const ReferenceMap map(plan, madeFrom);
+        const ReferenceMap map(plan, madeFrom, true);
         QCOMPARE(map.MapReferencePath(desk.library.Path("PIN.tfmprt")),
                  std::optional(desk.Copy("x_pin.tfmprt")));
         QCOMPARE(map.MapReferencePath(desk.library.Path("TOP.tfmasm")), std::optional(desk.target));

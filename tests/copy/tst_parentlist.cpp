@@ -179,7 +179,8 @@ private Q_SLOTS:
     void theDocumentIsNeverItsOwnParent() {
         CopyDesk desk;
         const QString self = desk.library.Path("SELF.tfmasm");
-        desk.source = desk.library.Make("self.tfmasm", {{desk.library.Path("self.tfmasm")}});
+        desk.library.Make("self.tfmasm", {{desk.library.Path("self.tfmasm")}});
+        desk.source = self;  // which only differs in letter case
         desk.folder = "/x";
         desk.FindParents();
         QCOMPARE(desk.parents.Count(), 0);

@@ -2,6 +2,7 @@
 
 #include <sys/mount.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <QDir>
@@ -14,6 +15,7 @@
 #include <thread>
 
 #include "services/docaccess.h"
+#include "services/filecopy.h"
 #include "services/filesystem.h"
 #include "tests/support/smallfiles.h"
 #include "tests/support/testenvironment.h"
@@ -239,6 +241,48 @@ private Q_SLOTS:
             isSeen = copy == after;
         }
         QVERIFY(isSeen);
+    }
+
+    // Killed in the midst of a write: nothing has a name that somebody would open.
+    void aCopyWhoseProcessIsKilledLeavesNoTarget() {
+        const Folder folder;
+        const QString source = folder.Write("a", Bytes(3'000'000));
+        folder.Write("old", "somebody's work");
+        for (const auto& [target, ifThere] :
+             {std::pair("b", IfThere::Refuse), std::pair("old", IfThere::Replace)}) {
+            const pid_t child = fork();
+            if (child == 0) {
+                const rlimit small{1'000'000, 1'000'000};
+                const rlimit noCore{0, 0};
+                setrlimit(RLIMIT_CORE, &noCore);
+                setrlimit(RLIMIT_FSIZE, &small);
+                std::signal(SIGXFSZ, SIG_DFL);
+                Files().Copy(source, folder.Path(target), ifThere);
+                _exit(0);
+            }
+            int status = 0;
+            QCOMPARE(waitpid(child, &status, 0), child);
+            QVERIFY(WIFSIGNALED(status) && WTERMSIG(status) == SIGXFSZ);
+        }
+        QVERIFY(!QFile::exists(folder.Path("b")));
+        QCOMPARE(folder.Read("old"), QByteArray("somebody's work"));
+        for (const QString& name : folder.Names())
+            QVERIFY2(name == "a" || name == "old" || name.endsWith(".tmp"), qPrintable(name));
+    }
+
+    void aMoveByAPlaceholderReplacesNothing() {
+        const Folder folder;
+        const QByteArray from = QFile::encodeName(folder.Write("a", "mine"));
+        folder.Write("old", "somebody's work");
+        QVERIFY(!MoveByPlaceholder(from, QFile::encodeName(folder.Path("old"))));
+        QCOMPARE(errno, EEXIST);
+        QVERIFY(!MoveByPlaceholder(QFile::encodeName(folder.Path("none")),
+                                   QFile::encodeName(folder.Path("b"))));
+        QCOMPARE(folder.Names(), (QStringList{"a", "old"}));
+        QVERIFY(MoveByPlaceholder(from, QFile::encodeName(folder.Path("b"))));
+        QCOMPARE(folder.Names(), (QStringList{"b", "old"}));
+        QCOMPARE(folder.Read("b"), QByteArray("mine"));
+        QCOMPARE(folder.Read("old"), QByteArray("somebody's work"));
     }
 
     void aFullDiskIsNamed() {
