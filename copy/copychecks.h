@@ -18,6 +18,8 @@ struct CopyChecks {
     QHash<QString, QString>& replacedFiles;  // gets the files chosen in place of missing ones
     // Shows a question with a button for each caption; the index of the one pressed, -1 for none.
     std::function<int(const QString& question, const QStringList& buttons)> ask;
+    // False: nobody is asked about missing folders, which the copy makes as it comes to them.
+    bool makesFolders = true;
 };
 
 // What refused a copy wants of the field with the target.

@@ -6,8 +6,9 @@
 
 namespace docbench {
 
-ReferenceMap::ReferenceMap(const CopyPlan& plan, const QHash<QString, QString>& madeFrom)
-    : plan_(plan), madeFrom_(madeFrom) {
+ReferenceMap::ReferenceMap(const CopyPlan& plan, const QHash<QString, QString>& madeFrom,
+                           Targets targets)
+    : plan_(plan), madeFrom_(madeFrom), targets_(targets) {
     for (int row = 0; row < plan.copies.Count(); ++row) {
         const CopyRow shown = ReadCopyRow(plan.copies.At(row));
         QList<int>& exact = exact_[shown.source];
@@ -65,6 +66,8 @@ std::optional<QString> ReferenceMap::OwnCopy() const {
 
 // What is on a server was uploaded a moment ago.
 bool ReferenceMap::IsThere(const QString& target) const {
+    if (targets_ == Targets::Granted)
+        return true;
     const auto known = there_.constFind(target);
     if (known != there_.cend())
         return *known;

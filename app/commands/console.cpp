@@ -36,6 +36,25 @@ std::vector<qsizetype> Widths(const TextTable& table) {
     return widths;
 }
 
+void WriteTable(const TextTable& table, QTextStream& stream, bool boldHeaders) {
+    const std::vector<qsizetype> widths = Widths(table);
+    for (size_t row = 0; row < table.size(); ++row) {
+        QString line;
+        for (size_t i = 0; i < size_t(table[row].size()); ++i)
+            line += OneLine(table[row][i]).leftJustified(widths[i] + 2);
+        while (line.endsWith(u' '))
+            line.chop(1);
+        if (row == 0 && boldHeaders)
+            line = QStringLiteral("\x1b[1m") + line + QStringLiteral("\x1b[0m");
+        stream << line << '\n';
+    }
+}
+
+// The columns that hold whole numbers.
+bool IsNumberColumn(const QString& header) {
+    return header == QLatin1String("Position") || header == QLatin1String("Size");
+}
+
 }  // namespace
 
 Console::Console(const QString& command, Format format)
@@ -59,17 +78,13 @@ void Console::PrintTable(const TextTable& table) {
             out_ << table[row].front() << QChar(u'\0');
         return;
     }
-    const std::vector<qsizetype> widths = Widths(table);
-    for (size_t row = 0; row < table.size(); ++row) {
-        QString line;
-        for (size_t i = 0; i < size_t(table[row].size()); ++i)
-            line += OneLine(table[row][i]).leftJustified(widths[i] + 2);
-        while (line.endsWith(u' '))
-            line.chop(1);
-        if (row == 0 && coloured_)
-            line = QStringLiteral("\x1b[1m") + line + QStringLiteral("\x1b[0m");
-        out_ << line << '\n';
-    }
+    WriteTable(table, out_, coloured_);
+}
+
+// On standard error, as the question is: standard output may lead to a file, or take JSON.
+void Console::ShowPlan(const TextTable& table) {
+    ShowProgress(QString());
+    WriteTable(table, err_, false);
 }
 
 void Console::PrintJson(QJsonObject result) {
@@ -117,11 +132,10 @@ bool Console::IsInteractive() {
     return isatty(STDIN_FILENO) == 1 && isatty(STDERR_FILENO) == 1;
 }
 
-void AddChangeOptions(QCommandLineParser& parser) {
-    parser.addOption(
-        {kDryRunOption, QStringLiteral("Prints what would be written, and changes nothing.")});
-    parser.addOption({{QStringLiteral("y"), kYesOption},
-                      QStringLiteral("Doesn't ask. Needed where nobody can be asked.")});
+QList<QCommandLineOption> ChangeOptions() {
+    return {{kDryRunOption, QStringLiteral("Prints what would be written, and changes nothing.")},
+            {{QStringLiteral("y"), kYesOption},
+             QStringLiteral("Doesn't ask. Needed where nobody can be asked.")}};
 }
 
 Decision DecideAbout(const TextTable& plan, const QCommandLineParser& line, Console& console) {
@@ -135,7 +149,7 @@ Decision DecideAbout(const TextTable& plan, const QCommandLineParser& line, Cons
         return Decision::Go;
     if (!Console::IsInteractive())
         return Decision::NeedsYes;
-    console.PrintTable(plan);
+    console.ShowPlan(plan);
     return console.Ask(QStringLiteral("Write this?")) ? Decision::Go : Decision::No;
 }
 
@@ -161,7 +175,9 @@ QJsonArray RowsAsJson(const TextTable& table) {
     for (size_t row = 1; row < table.size(); ++row) {
         QJsonObject object;
         for (size_t i = 0; i < size_t(table[row].size()); ++i)
-            object.insert(table.front()[i].toLower(), table[row][i]);
+            object.insert(table.front()[i].toLower(), IsNumberColumn(table.front()[i])
+                                                          ? QJsonValue(table[row][i].toLongLong())
+                                                          : QJsonValue(table[row][i]));
         rows.append(object);
     }
     return rows;
