@@ -6,10 +6,12 @@
 #include "platform/xlsxspreadsheet.h"
 #include "services/documentlibrary.h"
 #include "services/folderlists.h"
+#include "services/language.h"
 #include "services/paths.h"
 #include "services/webauthority.h"
 #include "services/webcopies.h"
 #include "services/webdocument.h"
+#include "shell/locking.h"
 
 namespace docbench {
 
@@ -48,6 +50,24 @@ std::unique_ptr<DocumentFile> OpenDocument(const QString& path) {
     } catch (const DocumentError& error) {
         throw NoDocumentError(error.Description());
     }
+}
+
+void RequireTables(DocumentFile& file) {
+    if (!file.IsCurrentFormat())
+        throw DocumentError(gOldFormatText);
+}
+
+void RequireWritable(const QString& path) {
+    const int code = Documents().MakeDocumentFile()->GetAccessState(LocalCopyOf(path));
+    if (code != 0)
+        throw DocumentError(AccessStateText(code, path));
+}
+
+void RequireUnlocked(const QString& path) {
+    const auto info = Documents().MakeDocumentInfo();
+    if (info->Open(LocalCopyOf(path)) && info->GetLocked())
+        throw DocumentError(
+            QStringLiteral("%1 is locked by %2: unlock it first.").arg(path, info->GetLockedBy()));
 }
 
 QString DocumentPath(const QString& word) {

@@ -53,6 +53,12 @@ class NoDocumentError : public DocumentError {
 // The document at a path or address, open. Raises NoDocumentError.
 std::unique_ptr<DocumentFile> OpenDocument(const QString& path);
 
+// Raise DocumentError for a document that is too old to have tables, that may not be written, or
+// that somebody has reserved.
+void RequireTables(DocumentFile& file);
+void RequireWritable(const QString& path);
+void RequireUnlocked(const QString& path);
+
 // The whole path of a document that was named on the line; an address as it stands.
 QString DocumentPath(const QString& word);
 

@@ -2,10 +2,13 @@
 
 #include <QTextStream>
 
+#include "app/commands/configurationscommand.h"
 #include "app/commands/console.h"
 #include "app/commands/copycommand.h"
+#include "app/commands/hyperlinkscommand.h"
 #include "app/commands/listcommand.h"
 #include "app/commands/lockcommand.h"
+#include "app/commands/propertiescommand.h"
 #include "app/commands/referencescommand.h"
 #include "app/commands/renamecommand.h"
 #include "app/commands/searchcommand.h"
@@ -78,8 +81,9 @@ const std::vector<std::unique_ptr<Command>>& AllCommands() {
         all.push_back(std::make_unique<RenameCommand>(RenameCommand::Does::Rename));
         all.push_back(std::make_unique<RenameCommand>(RenameCommand::Does::Replace));
         all.push_back(std::make_unique<CopyCommand>());
-        all.push_back(std::make_unique<ContentsCommand>(ContentsCommand::Lists::Configurations));
-        all.push_back(std::make_unique<ContentsCommand>(ContentsCommand::Lists::Hyperlinks));
+        all.push_back(std::make_unique<PropertiesCommand>());
+        all.push_back(std::make_unique<ConfigurationsCommand>());
+        all.push_back(std::make_unique<HyperlinksCommand>());
         all.push_back(std::make_unique<LockCommand>(LockCommand::Does::Lock));
         all.push_back(std::make_unique<LockCommand>(LockCommand::Does::Unlock));
         all.push_back(std::make_unique<ListCommand>());

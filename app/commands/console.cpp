@@ -170,6 +170,16 @@ int ExitCodeOf(Decision decision, Console& console) {
     return kExitDone;
 }
 
+int TellChanged(const QString& document, bool isChanged, bool done, Console& console) {
+    const TextTable outcome = {{QStringLiteral("Document"), QStringLiteral("Status")},
+                               {document, !isChanged ? QStringLiteral("unchanged")
+                                          : done     ? QStringLiteral("updated")
+                                                     : QStringLiteral("failed")}};
+    console.PrintTable(outcome);
+    console.PrintJson({{QStringLiteral("rows"), RowsAsJson(outcome)}});
+    return done ? kExitDone : kExitPartly;
+}
+
 QJsonArray RowsAsJson(const TextTable& table) {
     QJsonArray rows;
     for (size_t row = 1; row < table.size(); ++row) {

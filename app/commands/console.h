@@ -61,6 +61,9 @@ Decision DecideAbout(const TextTable& plan, const QCommandLineParser& line, Cons
 // The exit code of a decision that is not to go on; tells why.
 int ExitCodeOf(Decision decision, Console& console);
 
+// Prints what became of the one document that a command changed, and gives the exit code.
+int TellChanged(const QString& document, bool isChanged, bool done, Console& console);
+
 // The table as JSON: one object a row, its members named as the headers, in lower case.
 // Positions and sizes are numbers, all else texts.
 QJsonArray RowsAsJson(const TextTable& table);
