@@ -68,7 +68,8 @@ bool StandsAt(const OperatorWord& word, const QString& text, qsizetype position)
     if (IsSign(word.text))
         return true;
     const bool begins = position == 0 || text[position - 1].isSpace();
-    return begins && (behind.isEmpty() || behind.front().isSpace());
+    const bool ends = behind.isEmpty() || behind.front().isSpace() || !word.text.back().isLetter();
+    return begins && ends;
 }
 
 class RuleReader {

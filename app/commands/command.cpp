@@ -57,10 +57,14 @@ void RequireTables(DocumentFile& file) {
         throw DocumentError(gOldFormatText);
 }
 
-void RequireWritable(const QString& path) {
+QString WritingProblem(const QString& path) {
     const int code = Documents().MakeDocumentFile()->GetAccessState(LocalCopyOf(path));
-    if (code != 0)
-        throw DocumentError(AccessStateText(code, path));
+    return code == 0 ? QString() : AccessStateText(code, path);
+}
+
+void RequireWritable(const QString& path) {
+    if (const QString problem = WritingProblem(path); !problem.isEmpty())
+        throw DocumentError(problem);
 }
 
 void RequireUnlocked(const QString& path) {

@@ -58,6 +58,8 @@ std::unique_ptr<DocumentFile> OpenDocument(const QString& path);
 void RequireTables(DocumentFile& file);
 void RequireWritable(const QString& path);
 void RequireUnlocked(const QString& path);
+// Why a document may not be written; empty when it may.
+QString WritingProblem(const QString& path);
 
 // The whole path of a document that was named on the line; an address as it stands.
 QString DocumentPath(const QString& word);

@@ -133,9 +133,10 @@ int RunCommand(const Command& command, const QStringList& words) {
     }
     const qsizetype count = parser.positionalArguments().size();
     if (count < command.FewestWords() || count > command.MostWords())
-        return WrongUsage(
-            command,
-            QStringLiteral("The command %1 takes %2.").arg(command.Name(), command.Arguments()));
+        return WrongUsage(command, QStringLiteral("The command %1 takes %2.")
+                                       .arg(command.Name(), command.Arguments().isEmpty()
+                                                                ? QStringLiteral("options alone")
+                                                                : command.Arguments()));
     QStringList given = parser.positionalArguments();
     for (const QString& option : parser.optionNames())
         given += parser.values(option);

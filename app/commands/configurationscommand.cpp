@@ -43,21 +43,25 @@ int NodeNamed(const CellTree& tree, const QString& name, const QString& document
     }
     if (found == 0)
         throw DocumentError(
-            QStringLiteral("There is no configuration \"%1\" in %2.").arg(name, document));
+            QStringLiteral("There is no configuration \"%1\" in %2 that can be changed.")
+                .arg(name, document));
     return found;
 }
 
-void Require(ConfigurationTree::Answer answer) {
+void Require(ConfigurationTree::Answer answer, const QString& name) {
+    const auto refuse = [&](const QString& reason) {
+        throw DocumentError(QStringLiteral("%1: %2").arg(name, reason));
+    };
     switch (answer) {
         case ConfigurationTree::Answer::Done:
             return;
         case ConfigurationTree::Answer::NameEmpty:
-            throw DocumentError(Tr(Text::ConfigurationNameEmpty));
+            return refuse(Tr(Text::ConfigurationNameEmpty));
         case ConfigurationTree::Answer::NameTaken:
-            throw DocumentError(Tr(Text::ConfigurationNameTaken));
+            return refuse(Tr(Text::ConfigurationNameTaken));
         case ConfigurationTree::Answer::Stays:
         case ConfigurationTree::Answer::Refused:
-            throw DocumentError(Tr(Text::ConfigurationStays));
+            return refuse(Tr(Text::ConfigurationStays));
     }
 }
 
@@ -69,7 +73,7 @@ TextTable Edit(const QStringList& words, const QString& document, const CellTree
     if (words[1] == QLatin1String("rename") && names.size() == 2) {
         const int node = NodeNamed(tree, names[0], document);
         const QString stored = StoredText(tree.Nodes().At(node));
-        Require(configurations.Rename(node, names[1]));
+        Require(configurations.Rename(node, names[1]), stored);
         if (configurations.PendingChanges() > 0)
             plan.push_back({document, QStringLiteral("rename ") + stored, names[1]});
     } else if (words[1] == QLatin1String("delete") && !names.isEmpty()) {
@@ -77,7 +81,7 @@ TextTable Edit(const QStringList& words, const QString& document, const CellTree
             const int node = NodeNamed(tree, name, document);
             if (configurations.IsDeleted(node))
                 continue;
-            Require(configurations.ToggleDeletion(node));
+            Require(configurations.ToggleDeletion(node), name);
             plan.push_back({document, QStringLiteral("delete ") + StoredText(tree.Nodes().At(node)),
                             QString()});
         }
@@ -117,10 +121,11 @@ int ConfigurationsCommand::Run(const QCommandLineParser& line, Console& console)
     const TextTable plan = Edit(words, document, tree, configurations);
     RequireUnlocked(document);
     RequireWritable(document);
+    const QList<ConfigurationEdit> edits = configurations.Edits();
+    WriteConfigurations(*OpenDocument(document), edits);  // proves that it can be done
     const Decision decision = DecideAbout(plan, line, console);
     if (decision != Decision::Go)
         return ExitCodeOf(decision, console);
-    const QList<ConfigurationEdit> edits = configurations.Edits();
     if (!edits.isEmpty())
         SaveConfigurations(LocalCopyOf(document), *file, edits, document);
     const bool done = edits.isEmpty() || UploadIfWeb(document);

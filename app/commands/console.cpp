@@ -120,6 +120,13 @@ void Console::Warn(const QString& text) {
     err_.flush();
 }
 
+void Console::WarnOfUnread(int documents) {
+    if (documents == 1)
+        Warn(QStringLiteral("1 document could not be read."));
+    else if (documents > 1)
+        Warn(QStringLiteral("%1 documents could not be read.").arg(documents));
+}
+
 bool Console::Ask(const QString& question) {
     out_.flush();
     err_ << question << " [y/N] ";

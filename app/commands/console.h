@@ -37,6 +37,7 @@ public:
     // One line on standard error that is written over by the next; only on a terminal.
     void ShowProgress(const QString& text);
     void Warn(const QString& text);
+    void WarnOfUnread(int documents);  // nothing for 0
 
     // Asks on the terminal; anything but "y" is no.
     bool Ask(const QString& question);

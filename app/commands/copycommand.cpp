@@ -236,8 +236,7 @@ int CopyCommand::Run(const QCommandLineParser& line, Console& console) const {
     const bool overwrites = line.isSet(kOverwriteOption);
     if (!Check(lists) || !MayWriteTargets(plan, overwrites, console))
         return kExitPartly;
-    if (unread > 0)
-        console.Warn(QStringLiteral("%1 documents could not be read.").arg(unread));
+    console.WarnOfUnread(unread);
     const Decision decision = DecideAbout(CopyPlanAsTable(plan), line, console);
     if (decision != Decision::Go)
         return ExitCodeOf(decision, console);

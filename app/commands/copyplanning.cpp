@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QSet>
 
+#include "app/commands/command.h"
 #include "copy/copylist.h"
 #include "copy/copypreview.h"
 #include "copy/parentlist.h"
@@ -106,7 +107,7 @@ CopyOutcomeTable CopyOutcomeAsTable(const CopyPlan& plan, const CopyResult& resu
     for (const CellRow& row : plan.parents.Rows()) {
         const ParentRow parent = ReadParentRow(row);
         if (!row.ticked)
-            outcome.Add(parent.parent, QStringLiteral("left out"), {});
+            outcome.Add(parent.parent, QStringLiteral("left out"), WritingProblem(parent.parent));
         else if (parent.state == ParentState::Copy)
             outcome.AddByColor(row.cells[kParentHolder], parent.target, copied, {});
         else

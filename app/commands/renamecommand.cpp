@@ -79,7 +79,7 @@ TextTable OutcomeAsTable(const CellList& list) {
         else if (row.ticked)
             table.push_back({holder.tag, QStringLiteral("failed"), holder.toolTip});
         else
-            table.push_back({holder.tag, QStringLiteral("left out"), QString()});
+            table.push_back({holder.tag, QStringLiteral("left out"), WritingProblem(holder.tag)});
     }
     return table;
 }

@@ -53,10 +53,8 @@ int WhereUsedCommand::Run(const QCommandLineParser& line, Console& console) cons
     console.PrintJson({{QStringLiteral("documentsRead"), counts.documents},
                        {QStringLiteral("unread"), counts.unread},
                        {QStringLiteral("rows"), RowsAsJson(table)}});
-    if (counts.unread == 0)
-        return kExitDone;
-    console.Warn(QStringLiteral("%1 documents could not be read.").arg(counts.unread));
-    return kExitPartly;
+    console.WarnOfUnread(counts.unread);
+    return counts.unread == 0 ? kExitDone : kExitPartly;
 }
 
 }  // namespace docbench
