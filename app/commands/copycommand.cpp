@@ -14,6 +14,7 @@
 #include "copy/parentlist.h"
 #include "copy/parentsearch.h"
 #include "copy/textreplace.h"
+#include "panes/rowbatch.h"
 #include "rename/renamechecks.h"
 #include "services/dialogs.h"
 #include "services/paths.h"
@@ -133,7 +134,9 @@ int ListParents(const QCommandLineParser& line, Lists& lists, Console& console) 
                    .progress = [&](const SearchCounts& now) { counts = now; }},
         .targetFolder = lists.folder,
         .affixes = lists.affixes};
-    SearchParents(parents, FoldersToSearch(line, FolderOf(lists.source)), lists.parents);
+    RowBatch rows = ParentRows(lists.parents);
+    SearchParents(parents, FoldersToSearch(line, FolderOf(lists.source)), rows);
+    rows.Flush();
     return counts.unread;
 }
 
@@ -182,6 +185,7 @@ CopyResult Carry(const CopyPlan& plan, bool overwrites, Console& console) {
     return RunCopy(plan, {.status = [&](const QString& text) { console.ShowProgress(text); },
                           .step = [](int, int, const QString&) {},
                           .rowDone = [](CopyProgress::List, int) {},
+                          .rowInQuestion = [](CopyProgress::List, int) {},
                           .yield = [] { return true; }});
 }
 
