@@ -83,6 +83,9 @@ QList<QCommandLineOption> SearchCommand::Options() const {
 int SearchCommand::Run(const QCommandLineParser& line, Console& console) const {
     CellList rules;
     ReadRules(line, rules);
+    const QString folders = FoldersToSearch(line, QDir::currentPath());
+    if (IsWebPath(folders))
+        throw UsageError(QStringLiteral("Web folders can't be searched by rules."));
     const auto query = Documents().MakePropertyQuery(
         {.fileName = Tr(Text::FileName), .yes = Tr(Text::ValueYes), .no = Tr(Text::ValueNo)});
     AddRules(rules, *query);
@@ -105,7 +108,7 @@ int SearchCommand::Run(const QCommandLineParser& line, Console& console) const {
                                    table.push_back(RowOf(path));
                                },
                            .progress = [&](const SearchCounts& now) { counts = now; }});
-    search.Run(SearchEntries(FoldersToSearch(line, QDir::currentPath())));
+    search.Run(SearchEntries(folders));
     WriteOutput(table, line);
     console.PrintTable(table);
     console.PrintJson({{QStringLiteral("documentsRead"), counts.documents},

@@ -6,6 +6,7 @@
 #include <QProcess>
 #include <QTest>
 
+#include "docmodel/builder.h"
 #include "tests/support/apacheserver.h"
 #include "tests/support/faultserver.h"
 #include "tests/support/testdialogs.h"
@@ -20,6 +21,8 @@ class TestApp : public QObject {
 private Q_SLOTS:
     void treePrintsJson();
     void aWebFolderPrintsTheSameTreeAsTheDisk();
+    void aWebDocumentIsEditedWhereItIs();
+    void copiesGoToAndComeFromWebFolders();
     void aServerThatIsNotThereIsToldInWords();
     void thePasswordGoesToTheNamedServerAlone_data();
     void thePasswordGoesToTheNamedServerAlone();
@@ -105,6 +108,53 @@ void TestApp::aWebFolderPrintsTheSameTreeAsTheDisk() {
     expected.replace(library.Folder() + u'/', server.Url());
     QCOMPARE(web.out, expected);
     QVERIFY(web.out.contains(server.Url(QStringLiteral("pin.tfmprt"))));
+}
+
+void TestApp::aWebDocumentIsEditedWhereItIs() {
+    const ApacheServer server;
+    TestLibrary library;
+    const QString pin = library.Make("pin.tfmprt");
+    {
+        auto part = docmodel::DocumentBuilder::Edit(pin);
+        part.AddConfiguration("Long");
+        part.AddHyperlink("a");
+        part.Save();
+    }
+    QVERIFY(QFile::copy(pin, server.Path("pin.tfmprt")));
+    const QString url = server.Url("pin.tfmprt");
+    for (const QStringList& words :
+         {QStringList{"properties", "--yes", "--set=Finish=zinc", url},
+          QStringList{"configurations", "--yes", url, "rename", "Long", "Longer"},
+          QStringList{"hyperlinks", "--yes", url, "change", "a", "b"}}) {
+        const Run run(words);
+        QVERIFY2(run.code == 0, qPrintable(run.err));
+        QVERIFY(run.out.contains(url + "  updated"));
+    }
+    const QString stored = server.Path("pin.tfmprt");
+    QVERIFY(Run({"properties", stored}).out.contains("Finish"));
+    QCOMPARE(Run({"configurations", "-0", stored}).out, QString("Longer") + QChar('\0'));
+    QCOMPARE(Run({"hyperlinks", "-0", stored}).out, QString("b") + QChar('\0'));
+}
+
+void TestApp::copiesGoToAndComeFromWebFolders() {
+    const ApacheServer server;
+    TestLibrary library;
+    SmallAssembly(library);
+    const QString left = library.Path("left.tfmasm");
+    const QStringList up{"copy", "--to", server.Url("up"), left};
+    QCOMPARE(Run(up + QStringList{"--dry-run"}).code, 0);
+    QVERIFY(!QFile::exists(server.Path("up")));
+    QCOMPARE(Run({"copy", "--yes", "--alone", "--to", server.Url("up"), library.Path("pin.tfmprt")})
+                 .code,
+             0);
+    QVERIFY(QFile::exists(server.Path("up/pin.tfmprt")));
+    const Run taken(
+        {"copy", "--yes", "--alone", "--to", server.Url("up"), library.Path("pin.tfmprt")});
+    QCOMPARE(taken.code, 1);
+    QVERIFY(taken.err.contains("already there"));
+    QCOMPARE(Run({"copy", "--yes", "--to", library.Path("down"), server.Url("up/pin.tfmprt")}).code,
+             0);
+    QVERIFY(QFile::exists(library.Path("down/pin.tfmprt")));
 }
 
 void TestApp::aServerThatIsNotThereIsToldInWords() {
