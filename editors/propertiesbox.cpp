@@ -3,6 +3,7 @@
 #include <QSignalBlocker>
 #include <limits>
 
+#include "editors/pendinguploads.h"
 #include "editors/propertyrows.h"
 #include "editors/propertysave.h"
 #include "frame/desccontrol.h"
@@ -167,6 +168,7 @@ void PropertiesBox::populateSummary(const QString& path) {
 }
 
 void PropertiesBox::Load(const QString& path) {
+    ForgetGivenUpCopies();
     partfilename = path;
     Blank();
     const auto info = Documents().MakeDocumentInfo();
@@ -175,11 +177,12 @@ void PropertiesBox::Load(const QString& path) {
         return SetStatusText(Format(Text::NoPropertiesOf, path));
     }
     FillSummary(*info);
-    LoadPropertyRows(ui_->customSet->List(), *info);
+    ui_->customSet->Load(*info, path);
     customStamp_ = info->GetStamp(PropertyGroup::Custom);
-    ui_->customSet->FitColumns();
     ListConfigurations();
     populated = true;
+    if (IsUploadPending(path))
+        EnableButtons();
     SetStatusText(Format(Text::PropertiesOf, path));
 }
 
@@ -268,11 +271,11 @@ bool PropertiesBox::LeaveConfiguration() {
         configDirty = false;
         return true;
     }
-    bool written = false;
     ErrorState errors;
-    if (!errors.Run([&] { written = WriteConfiguration(currentConfiguration); }))
-        Warn(Format(Text::PropertiesWriteError, errors.Description()));
-    return written;
+    if (errors.Run([this] { WriteConfiguration(currentConfiguration); }))
+        return true;
+    Warn(Format(Text::PropertiesWriteError, errors.Description()));
+    return false;
 }
 
 std::unique_ptr<DocumentInfo> PropertiesBox::OpenConfiguration(int index) const {
@@ -283,12 +286,11 @@ void PropertiesBox::ShowConfiguration(int index) {
     const auto set = OpenConfiguration(index);
     if (!set)
         return Warn(Tr(Text::NoConfigurationProperties));
-    LoadPropertyRows(ui_->configSet->List(), *set);
+    ui_->configSet->Load(*set, partfilename);
     configStamp_ = set->GetStamp(PropertyGroup::Custom);
     configDirty = false;
     deletedConfigNames.clear();
     ui_->configSet->ClearInput();
-    ui_->configSet->FitColumns();
     ui_->configSet->setEnabled(true);
 }
 
@@ -306,6 +308,8 @@ void PropertiesBox::WriteEdits() {
         return;
     if (summaryDirty || customDirty)
         WriteDocument();
+    else if (IsUploadPending(partfilename))
+        Upload();
 }
 
 // The flags are cleared when all is on the disk, so that whatever fails can be tried again. False
@@ -320,10 +324,8 @@ bool PropertiesBox::WriteConfiguration(int index) {
                          partfilename);
     configStamp_ = set->GetStamp(PropertyGroup::Custom);
     deletedConfigNames.clear();
-    if (!UploadIfWeb(partfilename))
-        return false;
     configDirty = false;
-    return true;
+    return Upload();
 }
 
 void PropertiesBox::WriteDocument() {
@@ -338,10 +340,14 @@ void PropertiesBox::WriteDocument() {
         edits.custom.emplace(SetEdits{ui_->customSet->List(), deletedCustomNames, customStamp_});
     SaveDocumentProperties(*info, edits, partfilename);
     TakeAsRead(*info, HasEdits(typed));
-    if (!UploadIfWeb(partfilename))
-        return;
     summaryDirty = customDirty = false;
+    Upload();
     ShowLastSave(*info);
+}
+
+// False when the server has not taken what is saved. Raises when its local copy was given up since.
+bool PropertiesBox::Upload() {
+    return UploadSaved(partfilename, UrlToUpload(partfilename, gWebCopies.value(partfilename)));
 }
 
 // What was not written keeps its stamp: the pane still shows it as it was read.
@@ -378,8 +384,12 @@ QString PropertiesBox::TextOf(SummaryField field) const {
         case SummaryField::Comments:
             break;
     }
-    // Not as plain text, which would turn every no-break space into a common one.
-    return ui_->Summary_6->document()->toRawText().replace(QChar::ParagraphSeparator, u'\n');
+    // Not as plain text, which would turn every no-break space into a common one. Shift+Enter makes
+    // a line separator, which is a line's end like any other.
+    return ui_->Summary_6->document()
+        ->toRawText()
+        .replace(QChar::ParagraphSeparator, u'\n')
+        .replace(QChar::LineSeparator, u'\n');
 }
 
 }  // namespace docbench

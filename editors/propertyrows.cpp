@@ -87,6 +87,29 @@ void LoadPropertyRows(CellList& list, DocumentInfo& set) {
     list.Append(std::move(rows));
 }
 
+QStringList PropertyNames(DocumentInfo& set) {
+    QStringList names;
+    const int count = set.GetCustomCount();
+    for (int index = 0; index < count; ++index)
+        names.append(set.GetCustomProperty(index).name);
+    return names;
+}
+
+bool IsAmbiguous(const QStringList& names, const QString& name) {
+    const qsizetype exact = names.count(name);
+    const qsizetype same = std::count_if(names.begin(), names.end(), [&](const QString& other) {
+        return other.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    return exact > 1 || (exact == 0 && same > 1);
+}
+
+QString AmbiguityReason(const QString& document, const QString& name) {
+    return QStringLiteral(
+               "The document %1 has several properties that the name \"%2\" can stand for, and the "
+               "change could hit the wrong one. Change them in the program that made the document.")
+        .arg(document, name);
+}
+
 int FindProperty(const CellList& list, const QString& name) {
     int found = -1;
     for (int row = 0; row < list.Count(); ++row) {

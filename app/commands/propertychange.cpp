@@ -38,9 +38,16 @@ bool HasControlCharacter(const QString& name) {
 }  // namespace
 
 PropertyChange::PropertyChange(DocumentInfo& set, const QString& document)
-    : document_(document), stamp_(set.GetStamp(PropertyGroup::Custom)) {
+    : document_(document),
+      stored_(PropertyNames(set)),
+      stamp_(set.GetStamp(PropertyGroup::Custom)) {
     PreparePropertyList(rows_);
     LoadPropertyRows(rows_, set);
+}
+
+void PropertyChange::RequireUnambiguous(const QString& name) const {
+    if (IsAmbiguous(stored_, name))
+        throw DocumentError(AmbiguityReason(document_, name));
 }
 
 void PropertyChange::Set(const QString& assignment, std::optional<PropertyType> type) {
@@ -53,6 +60,7 @@ void PropertyChange::Set(const QString& assignment, std::optional<PropertyType> 
             QStringLiteral("The property \"%1\" needs a value; --delete takes it away.").arg(name));
     if (HasControlCharacter(name) || !FitsType(name, kTextProperty))
         throw UsageError(QStringLiteral("\"%1\" can't be the name of a property.").arg(name));
+    RequireUnambiguous(name);
     const int row = FindProperty(rows_, name);
     const PropertyType wanted = type.value_or(
         row < 0 ? kTextProperty : TypeOfLabel(rows_.At(row).cells[kPropertyType].text));
@@ -67,6 +75,7 @@ void PropertyChange::Set(const QString& assignment, std::optional<PropertyType> 
 }
 
 void PropertyChange::Delete(const QString& name) {
+    RequireUnambiguous(name);
     const int row = FindProperty(rows_, name);
     if (row < 0)
         throw DocumentError(

@@ -37,7 +37,10 @@ public:
     QStringList NotIn(DocumentInfo& set) const;
 
 private:
-    const QString document_;  // for messages
+    void RequireUnambiguous(const QString& name) const;
+
+    const QString document_;    // for messages
+    const QStringList stored_;  // the names of all properties
     CellList rows_;
     QStringList deleted_;
     QStringList set_;
