@@ -52,9 +52,9 @@ std::unique_ptr<DocumentFile> OpenDocument(const QString& path) {
     }
 }
 
-void RequireTables(DocumentFile& file) {
+void RequireTables(DocumentFile& file, const QString& path) {
     if (!file.IsCurrentFormat())
-        throw DocumentError(gOldFormatText);
+        throw DocumentError(QStringLiteral("%1: %2").arg(path, gOldFormatText));
 }
 
 QString WritingProblem(const QString& path) {
@@ -123,7 +123,7 @@ QString FoldersToSearch(const QCommandLineParser& line, const QString& otherwise
     for (const QString& folder : line.values(kInOption))
         folders.append(WholeFolder(folder));
     if (folders.isEmpty())
-        folders.append(otherwise);
+        folders.append(WholeFolder(otherwise));
     for (const QString& folder : folders) {
         if (folder.contains(u';'))
             throw UsageError(QStringLiteral("The folder %1 can't be searched: a \";\" in its name "

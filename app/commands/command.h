@@ -55,7 +55,7 @@ std::unique_ptr<DocumentFile> OpenDocument(const QString& path);
 
 // Raise DocumentError for a document that is too old to have tables, that may not be written, or
 // that somebody has reserved.
-void RequireTables(DocumentFile& file);
+void RequireTables(DocumentFile& file, const QString& path);
 void RequireWritable(const QString& path);
 void RequireUnlocked(const QString& path);
 // Why a document may not be written; empty when it may.

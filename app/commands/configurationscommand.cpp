@@ -112,11 +112,11 @@ int ConfigurationsCommand::Run(const QCommandLineParser& line, Console& console)
     const QStringList words = line.positionalArguments();
     const QString document = DocumentPath(words[0]);
     const auto file = OpenDocument(document);
+    RequireTables(*file, document);
     if (words.size() == 1)
         return Show(*file, console);
     CellTree tree;
     ConfigurationTree configurations(tree);
-    RequireTables(*file);
     configurations.Load(*file, FileNameOf(document), document);
     const TextTable plan = Edit(words, document, tree, configurations);
     RequireUnlocked(document);

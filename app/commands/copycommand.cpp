@@ -31,6 +31,7 @@ const QString kPrefixOption = QStringLiteral("prefix");
 const QString kSuffixOption = QStringLiteral("suffix");
 const QString kFindOption = QStringLiteral("find");
 const QString kReplaceOption = QStringLiteral("replace");
+const QString kTargetOption = QStringLiteral("target");
 const QString kAloneOption = QStringLiteral("alone");
 const QString kUsersOption = QStringLiteral("users");
 const QString kOverwriteOption = QStringLiteral("overwrite");
@@ -51,8 +52,10 @@ public:
         const bool isOverwriting = buttons == Buttons::YesNoCancel;
         if (isOverwriting && overwrites_)
             return Answer::Yes;
-        const Answer closing = former_->Box(text, icon, title, buttons, detail);
-        return buttons == Buttons::YesNo ? Answer::Yes : closing;
+        if (buttons != Buttons::YesNo)
+            return former_->Box(text, icon, title, buttons, detail);
+        former_->Box(text + QStringLiteral(" Yes."), icon, title, buttons, detail);
+        return Answer::Yes;
     }
     QString OpenFile(const QString& title, const QString& filter, const QString& start) override {
         return former_->OpenFile(title, filter, start);
@@ -99,11 +102,36 @@ QString WithoutSeparator(QString folder) {
 }
 
 // A bare name is meant for the target folder, and needs no extension.
+QString TargetNamed(const QString& word, const QString& source, const QString& folder) {
+    const QString name = WithExtension(word, source);
+    return name.contains(u'/') ? DocumentPath(name) : TargetIn(folder, name);
+}
+
 QString OwnTarget(const QCommandLineParser& line, const Lists& lists) {
-    if (!line.isSet(kAsOption))
-        return TargetIn(lists.folder, CopyName(lists.affixes, FileNameOf(lists.source)));
-    const QString name = WithExtension(line.value(kAsOption), lists.source);
-    return name.contains(u'/') ? DocumentPath(name) : TargetIn(lists.folder, name);
+    if (line.isSet(kAsOption))
+        return TargetNamed(line.value(kAsOption), lists.source, lists.folder);
+    return TargetIn(lists.folder, CopyName(lists.affixes, FileNameOf(lists.source)));
+}
+
+// SOURCE=TARGET, where both may hold a "=": the first one with a listed document before it counts.
+void SetTarget(const QString& assignment, Lists& lists) {
+    for (qsizetype equals = assignment.indexOf(u'='); equals > 0;
+         equals = assignment.indexOf(u'=', equals + 1)) {
+        const QString source = DocumentPath(assignment.left(equals));
+        const QString target = assignment.mid(equals + 1);
+        bool isListed = false;
+        for (int row = 0; row < lists.copies.Count() && !target.isEmpty(); ++row) {
+            if (ReadCopyRow(lists.copies.At(row)).source != source)
+                continue;
+            SetCopyTarget(lists.copies, row, TargetNamed(target, source, lists.folder));
+            isListed = true;
+        }
+        if (isListed)
+            return;
+    }
+    throw UsageError(QStringLiteral("\"%1\" does not read like SOURCE=TARGET, with a document that "
+                                    "is copied along as SOURCE.")
+                         .arg(assignment));
 }
 
 void ListCopies(const QCommandLineParser& line, Lists& lists, Console& console) {
@@ -116,6 +144,8 @@ void ListCopies(const QCommandLineParser& line, Lists& lists, Console& console) 
                    lists.copies);
     if (line.isSet(kFindOption))
         TextReplace(lists.copies).ReplaceAll(line.value(kFindOption), line.value(kReplaceOption));
+    for (const QString& assignment : line.values(kTargetOption))
+        SetTarget(assignment, lists);
 }
 
 // How many documents the search could not read.
@@ -170,6 +200,14 @@ bool MayWriteTargets(const CopyPlan& plan, bool overwrites, Console& console) {
         throw UsageError(QStringLiteral("%1 would be copied onto itself. Give another folder with "
                                         "--to, or another name with --prefix, --suffix or --as.")
                              .arg(itself));
+    if (const QStringList shared = SharedTargets(plan); !shared.isEmpty()) {
+        for (const QString& problem : shared)
+            console.Warn(problem);
+        console.Warn(
+            QStringLiteral("Nothing was copied. Give each a target of its own, with "
+                           "--target."));
+        return false;
+    }
     const QStringList existing = overwrites ? QStringList() : ExistingTargets(plan);
     for (const QString& target : existing)
         console.Warn(QStringLiteral("%1 is already there.").arg(target));
@@ -211,6 +249,10 @@ QList<QCommandLineOption> CopyCommand::Options() const {
         {kSuffixOption, QStringLiteral("Goes behind the name of every copy."), text},
         {kAsOption, QStringLiteral("Name or path of the copy of FILE itself."),
          QStringLiteral("NAME")},
+        {kTargetOption,
+         QStringLiteral("Name or path of the copy of SOURCE, a document that is copied along; may "
+                        "be given several times."),
+         QStringLiteral("SOURCE=TARGET")},
         {kFindOption,
          QStringLiteral("With --replace: replaces TEXT in the paths of the other copies."), text},
         {kReplaceOption, QStringLiteral("What comes in its place."), text},

@@ -1,6 +1,7 @@
 #include "app/commands/copyplanning.h"
 
 #include <QDir>
+#include <QHash>
 #include <QSet>
 
 #include "app/commands/command.h"
@@ -124,6 +125,26 @@ QStringList ExistingTargets(const CopyPlan& plan) {
             targets.append(file.target);
     }
     return targets;
+}
+
+QStringList SharedTargets(const CopyPlan& plan) {
+    QHash<QString, QString> sources;
+    QStringList shared;
+    const auto look = [&](const std::vector<PlannedCopy>& copies) {
+        for (const PlannedCopy& copy : copies) {
+            if (copy.action == CopyAction::Skips)
+                continue;
+            const QString first = sources.value(TargetKey(copy.target), copy.source);
+            sources.insert(TargetKey(copy.target), first);
+            if (first != copy.source)
+                shared.append(QStringLiteral("%1 and %2 would both be copied to %3.")
+                                  .arg(first, copy.source, copy.target));
+        }
+    };
+    look(PlanCopies(plan));
+    look(PlanParentCopies(plan));
+    shared.removeDuplicates();
+    return shared;
 }
 
 QString CopiedOntoItself(const CopyPlan& plan) {

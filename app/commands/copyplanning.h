@@ -18,6 +18,8 @@ CopyOutcomeTable CopyOutcomeAsTable(const CopyPlan& plan, const CopyResult& resu
 
 // The targets that are there already, each once.
 QStringList ExistingTargets(const CopyPlan& plan);
+// The targets that several documents would be copied to, each with its documents, as sentences.
+QStringList SharedTargets(const CopyPlan& plan);
 // The first document that would be copied onto itself; empty when there is none.
 QString CopiedOntoItself(const CopyPlan& plan);
 

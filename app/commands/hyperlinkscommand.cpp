@@ -64,7 +64,7 @@ int HyperlinksCommand::Run(const QCommandLineParser& line, Console& console) con
     const QString document = DocumentPath(words[0]);
     const auto file = OpenDocument(document);
     const QString local = LocalCopyOf(document);
-    RequireTables(*file);
+    RequireTables(*file, document);
     file->OpenHyperlinks(local);
     if (words.size() == 1)
         return Show(*file, console);

@@ -178,7 +178,7 @@ QList<QCommandLineOption> PropertiesCommand::Options() const {
         {kTypeOption,
          QStringLiteral("Type of what is set: text, date, number or yes-no. Default: the one that "
                         "the property has, else text."),
-         QStringLiteral("TYPE")},
+         PropertyTypeNames().join(u'|')},
         {kDeleteOption, QStringLiteral("Deletes a property; may be given several times."),
          QStringLiteral("NAME")}};
     for (const SummaryOption& option : kSummaryOptions)

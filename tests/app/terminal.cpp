@@ -40,7 +40,7 @@ QByteArray Terminal::ReadUntil(const QByteArray& text) {
             return std::exchange(received_, {});
     }
     const qsizetype end = received_.indexOf(text) + text.size();
-    const QByteArray read = received_.left(end);
+    QByteArray read = received_.left(end);
     received_.remove(0, end);
     return read;
 }
