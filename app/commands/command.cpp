@@ -114,6 +114,10 @@ QList<QCommandLineOption> FolderOptions(const QString& otherwise) {
             {kNoSubfoldersOption, QStringLiteral("Leaves the folders below out.")}};
 }
 
+bool LimitsSearch(const QCommandLineParser& line) {
+    return line.isSet(kInOption) || line.isSet(kNoSubfoldersOption) || line.isSet(kKindsOption);
+}
+
 bool WithSubfolders(const QCommandLineParser& line) {
     return !line.isSet(kNoSubfoldersOption);
 }

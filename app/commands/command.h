@@ -73,6 +73,7 @@ QString Wrapped(const QString& text);
 // Folders to search: those of the options, else `otherwise`. Raises UsageError for one that is not
 // there.
 QList<QCommandLineOption> FolderOptions(const QString& otherwise);
+bool LimitsSearch(const QCommandLineParser& line);  // by one of them, or by the kinds below
 bool WithSubfolders(const QCommandLineParser& line);
 QString FoldersToSearch(const QCommandLineParser& line, const QString& otherwise);
 

@@ -19,6 +19,7 @@
 #include "services/dialogs.h"
 #include "services/paths.h"
 #include "services/seams.h"
+#include "services/texts.h"
 #include "services/webcopies.h"
 
 namespace docbench {
@@ -93,6 +94,10 @@ void RequireSense(const QCommandLineParser& line) {
         throw UsageError(QStringLiteral("--find and --replace go together."));
     if (line.isSet(kFindOption) && line.value(kFindOption).isEmpty())
         throw UsageError(QStringLiteral("--find needs a text."));
+    if (LimitsSearch(line) && !line.isSet(kUsersOption))
+        throw UsageError(
+            QStringLiteral("--in, --no-subfolders and --kinds go with --users: where the "
+                           "users are looked for."));
 }
 
 QString WithoutSeparator(QString folder) {
@@ -113,20 +118,28 @@ QString OwnTarget(const QCommandLineParser& line, const Lists& lists) {
     return TargetIn(lists.folder, CopyName(lists.affixes, FileNameOf(lists.source)));
 }
 
+// False when the document is not listed.
+bool SetTarget(const QString& source, const QString& target, CellList& copies) {
+    bool isListed = false;
+    for (int row = 0; row < copies.Count(); ++row) {
+        if (ReadCopyRow(copies.At(row)).source != source)
+            continue;
+        if (DocTypeOf(source) != DocTypeOf(target))
+            throw UsageError(Tr(Text::TargetOfOtherType));
+        SetCopyTarget(copies, row, target);
+        isListed = true;
+    }
+    return isListed;
+}
+
 // SOURCE=TARGET, where both may hold a "=": the first one with a listed document before it counts.
 void SetTarget(const QString& assignment, Lists& lists) {
     for (qsizetype equals = assignment.indexOf(u'='); equals > 0;
          equals = assignment.indexOf(u'=', equals + 1)) {
         const QString source = DocumentPath(assignment.left(equals));
         const QString target = assignment.mid(equals + 1);
-        bool isListed = false;
-        for (int row = 0; row < lists.copies.Count() && !target.isEmpty(); ++row) {
-            if (ReadCopyRow(lists.copies.At(row)).source != source)
-                continue;
-            SetCopyTarget(lists.copies, row, TargetNamed(target, source, lists.folder));
-            isListed = true;
-        }
-        if (isListed)
+        if (!target.isEmpty() &&
+            SetTarget(source, TargetNamed(target, source, lists.folder), lists.copies))
             return;
     }
     throw UsageError(QStringLiteral("\"%1\" does not read like SOURCE=TARGET, with a document that "
