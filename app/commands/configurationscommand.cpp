@@ -48,21 +48,20 @@ int NodeNamed(const CellTree& tree, const QString& name, const QString& document
     return found;
 }
 
-void Require(ConfigurationTree::Answer answer, const QString& name) {
-    const auto refuse = [&](const QString& reason) {
-        throw DocumentError(QStringLiteral("%1: %2").arg(name, reason));
-    };
+QString ReasonFor(ConfigurationTree::Answer answer) {
     switch (answer) {
-        case ConfigurationTree::Answer::Done:
-            return;
         case ConfigurationTree::Answer::NameEmpty:
-            return refuse(Tr(Text::ConfigurationNameEmpty));
+            return Tr(Text::ConfigurationNameEmpty);
         case ConfigurationTree::Answer::NameTaken:
-            return refuse(Tr(Text::ConfigurationNameTaken));
-        case ConfigurationTree::Answer::Stays:
-        case ConfigurationTree::Answer::Refused:
-            return refuse(Tr(Text::ConfigurationStays));
+            return Tr(Text::ConfigurationNameTaken);
+        default:
+            return Tr(Text::ConfigurationStays);
     }
+}
+
+void Require(ConfigurationTree::Answer answer, const QString& name) {
+    if (answer != ConfigurationTree::Answer::Done)
+        throw DocumentError(QStringLiteral("%1: %2").arg(name, ReasonFor(answer)));
 }
 
 // Lays what the words ask for onto the tree, and gives the plan.
