@@ -1,6 +1,7 @@
 #include "app/commands/console.h"
 
 #include <unistd.h>
+#include <wchar.h>
 
 #include <QCommandLineParser>
 #include <QJsonArray>
@@ -26,12 +27,22 @@ QString OneLine(QString text) {
     return text;
 }
 
+// The columns that a text takes on a terminal, where many characters of East Asia take two.
+qsizetype WidthOf(const QString& text) {
+    qsizetype width = 0;
+    for (const char32_t one : text.toUcs4()) {
+        const int columns = wcwidth(wchar_t(one));
+        width += columns < 0 ? 1 : columns;  // the system knows no better
+    }
+    return width;
+}
+
 std::vector<qsizetype> Widths(const TextTable& table) {
     std::vector<qsizetype> widths;
     for (const auto& row : table) {
         widths.resize(std::max(widths.size(), size_t(row.size())));
         for (size_t i = 0; i < size_t(row.size()); ++i)
-            widths[i] = std::max(widths[i], row[i].size());
+            widths[i] = std::max(widths[i], WidthOf(OneLine(row[i])));
     }
     return widths;
 }
@@ -40,8 +51,10 @@ void WriteTable(const TextTable& table, QTextStream& stream, bool boldHeaders) {
     const std::vector<qsizetype> widths = Widths(table);
     for (size_t row = 0; row < table.size(); ++row) {
         QString line;
-        for (size_t i = 0; i < size_t(table[row].size()); ++i)
-            line += OneLine(table[row][i]).leftJustified(widths[i] + 2);
+        for (size_t i = 0; i < size_t(table[row].size()); ++i) {
+            const QString cell = OneLine(table[row][i]);
+            line += cell + QString(widths[i] + 2 - WidthOf(cell), u' ');
+        }
         while (line.endsWith(u' '))
             line.chop(1);
         if (row == 0 && boldHeaders)
