@@ -122,7 +122,7 @@ private:
         if (folder.isEmpty() || IsWebPath(file) || good_.contains(folder))
             return true;
         if (!QFileInfo::exists(FolderOf(file)))
-            return createAll_ || AskCreateFolder(folder);
+            return !checks_.makesFolders || createAll_ || AskCreateFolder(folder);
         if (IsReadOnly(file))
             return Refuse(Format(Text::TargetFolderReadOnly, folder));
         good_.insert(folder);

@@ -20,6 +20,8 @@ struct CopyChecks {
     std::function<int(const QString& question, const QStringList& buttons)> ask;
     // False: the lists are gone, behind one of the boxes.
     std::function<bool()> there = [] { return true; };
+    // False: nobody is asked about missing folders, which the copy makes as it comes to them.
+    bool makesFolders = true;
 };
 
 // What refused a copy wants of the field with the target.

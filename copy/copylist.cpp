@@ -1,6 +1,7 @@
 #include "copy/copylist.h"
 
 #include "services/language.h"
+#include "services/paths.h"
 #include "services/texts.h"
 
 namespace docbench {
@@ -35,6 +36,16 @@ CellRow MakeCopyRow(const QString& name, const QString& source, const QString& t
                       {.text = name}},
             .tag = name,
             .ticked = true};
+}
+
+void SetCopyTarget(CellList& list, int row, const QString& target) {
+    list.Change(row, [&](CellRow& changed) {
+        Cell& cell = changed.cells[kCopyTarget];
+        cell.tag = target;
+        cell.toolTip = target;
+        cell.text = ShownPath(list, kCopyTarget, target);
+        changed.tag = FileNameOf(target);
+    });
 }
 
 void PrepareCopyList(CellList& list) {

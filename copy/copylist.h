@@ -35,6 +35,9 @@ PathColumn CopyTargetColumn();
 CellRow MakeCopyRow(const QString& name, const QString& source, const QString& target,
                     bool missing);
 
+// Sets the target of a row by hand, in the form of its column.
+void SetCopyTarget(CellList& list, int row, const QString& target);
+
 // An empty list with all its headers, paths in long form.
 void PrepareCopyList(CellList& list);
 void ResetCopyHeaders(CellList& list);

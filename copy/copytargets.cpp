@@ -170,15 +170,10 @@ void copyRef::ChooseTarget(CellListView* list, int row) {
                                                   FolderText() + u'/' + FileNameOf(path));
     if (!alive || load != loads_ || name.isEmpty())
         return;
-    if (!isCopy)
-        return SetParentTarget(Parents(), row, name);
-    Copies().Change(row, [&](CellRow& changed) {
-        Cell& target = changed.cells[kCopyTarget];
-        target.tag = name;
-        target.toolTip = name;
-        target.text = ShownPath(Copies(), kCopyTarget, name);
-        changed.tag = FileNameOf(name);
-    });
+    if (isCopy)
+        SetCopyTarget(Copies(), row, name);
+    else
+        SetParentTarget(Parents(), row, name);
 }
 
 void copyRef::ReplaceInTargets() {

@@ -7,8 +7,8 @@
 namespace docbench {
 
 ReferenceMap::ReferenceMap(const CopyPlan& plan, const QHash<QString, QString>& madeFrom,
-                           bool hasOwnCopy)
-    : plan_(plan), madeFrom_(madeFrom), hasOwnCopy_(hasOwnCopy) {
+                           bool hasOwnCopy, Targets targets)
+    : plan_(plan), madeFrom_(madeFrom), hasOwnCopy_(hasOwnCopy), targets_(targets) {
     for (int row = 0; row < plan.copies.Count(); ++row) {
         const CopyRow shown = ReadCopyRow(plan.copies.At(row));
         QList<int>& exact = exact_[shown.source];
@@ -66,6 +66,8 @@ std::optional<QString> ReferenceMap::OwnCopy() const {
 
 // What is on a server was uploaded a moment ago.
 bool ReferenceMap::IsThere(const QString& target) const {
+    if (targets_ == Targets::Granted)
+        return true;
     const auto known = there_.constFind(target);
     if (known != there_.cend())
         return *known;

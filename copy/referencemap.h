@@ -15,7 +15,10 @@ class ReferenceMap {
 public:
     // `madeFrom` gives the sources of the copies that were made, by the keys of their targets. It
     // must outlive the map. `hasOwnCopy`: what stands at the target of the document is its copy.
-    ReferenceMap(const CopyPlan& plan, const QHash<QString, QString>& madeFrom, bool hasOwnCopy);
+    // Before a copy, its targets are taken for granted.
+    enum class Targets { LookedFor, Granted };
+    ReferenceMap(const CopyPlan& plan, const QHash<QString, QString>& madeFrom, bool hasOwnCopy,
+                 Targets targets = Targets::LookedFor);
 
     // The copy of the document at `path`: of the first row with a copy, else the document's own.
     // None: it was not copied, and the reference stays. Letter case counts only where documents
@@ -31,6 +34,7 @@ private:
     const CopyPlan& plan_;
     const QHash<QString, QString>& madeFrom_;
     const bool hasOwnCopy_;
+    const Targets targets_;
     QHash<QString, QList<int>> exact_;    // rows by the path of their source
     QHash<QString, QList<int>> folded_;   // the same in capitals
     mutable QHash<QString, bool> there_;  // targets that were looked for

@@ -5,6 +5,7 @@
 
 #include "editors/pendingtext.h"
 #include "services/docaccess.h"
+#include "services/documentlibrary.h"
 #include "services/paths.h"
 #include "services/texts.h"
 
@@ -130,6 +131,26 @@ namespace {
 
 constexpr int kDeleteMode = 2;
 
+QByteArray PropertiesStamp(DocumentFile& file, int id) {
+    const auto set = file.GetCustomProperties(id);
+    return set ? set->GetStamp(PropertyGroup::Custom) : QByteArray();
+}
+
+// Raises when the configurations are no longer those that were loaded, or when one that is to be
+// deleted has got other properties since.
+void RequireUnchanged(DocumentFile& newest, DocumentFile& loaded,
+                      const QList<ConfigurationEdit>& edits, const QString& path) {
+    bool changed = newest.GetStamp(Table::Configurations) != loaded.GetStamp(Table::Configurations);
+    for (const ConfigurationEdit& edit : edits)
+        changed = changed || (edit.isDeleted &&
+                              PropertiesStamp(newest, edit.id) != PropertiesStamp(loaded, edit.id));
+    if (changed)
+        throw DocumentError(QStringLiteral("The configurations of %1 were changed by another "
+                                           "program since they were loaded. Load them again and "
+                                           "repeat your changes.")
+                                .arg(path));
+}
+
 void Delete(DocumentFile& file, int id) {
     if (file.DeleteConfiguration(id, kDeleteMode) != 0)
         throw DocumentError(QStringLiteral("The configuration %1 can't be deleted: the document "
@@ -178,6 +199,15 @@ void WriteConfigurations(DocumentFile& file, const QList<ConfigurationEdit>& edi
                     .arg(waiting.first().newName));
         aside.insert(next->id);
     }
+}
+
+void SaveConfigurations(const QString& local, DocumentFile& loaded,
+                        const QList<ConfigurationEdit>& edits, const QString& path) {
+    const auto newest = Documents().MakeDocumentFile();
+    newest->Open(local);
+    RequireUnchanged(*newest, loaded, edits, path);
+    WriteConfigurations(*newest, edits);
+    newest->Save();
 }
 
 }  // namespace docbench

@@ -52,4 +52,10 @@ private:
 // Raises DocumentError when one can't be done. Nothing is on the disk before the document is saved.
 void WriteConfigurations(DocumentFile& file, const QList<ConfigurationEdit>& edits);
 
+// The same on the file at `local` as it is now, and saves it. Raises also when its configurations
+// are no longer those of `loaded`, or one that is to be deleted has got other properties since;
+// `path` is named in the error.
+void SaveConfigurations(const QString& local, DocumentFile& loaded,
+                        const QList<ConfigurationEdit>& edits, const QString& path);
+
 }  // namespace docbench

@@ -24,26 +24,6 @@ void Warn(const QString& text) {
     gSeams.dialogs->Box(text, Dialogs::Icon::Exclamation, gAppTitle);
 }
 
-QByteArray PropertiesStamp(DocumentFile& file, int id) {
-    const auto set = file.GetCustomProperties(id);
-    return set ? set->GetStamp(PropertyGroup::Custom) : QByteArray();
-}
-
-// Raises when the configurations are no longer those that were loaded, or when one that is to be
-// deleted has got other properties since.
-void RequireUnchanged(DocumentFile& newest, DocumentFile& loaded,
-                      const QList<ConfigurationEdit>& edits, const QString& path) {
-    bool changed = newest.GetStamp(Table::Configurations) != loaded.GetStamp(Table::Configurations);
-    for (const ConfigurationEdit& edit : edits)
-        changed = changed || (edit.isDeleted &&
-                              PropertiesStamp(newest, edit.id) != PropertiesStamp(loaded, edit.id));
-    if (changed)
-        throw DocumentError(QStringLiteral("The configurations of %1 were changed by another "
-                                           "program since they were loaded. Load them again and "
-                                           "repeat your changes.")
-                                .arg(path));
-}
-
 }  // namespace
 
 editConfig::editConfig(QWidget* parent) : Pane(parent), ui_(std::make_unique<Ui::editConfig>()) {
@@ -196,13 +176,8 @@ void editConfig::Save() {
 bool editConfig::Write() {
     const QString url = UrlToUpload(partfilename, localPath);
     const QList<ConfigurationEdit> edits = configurations_->Edits();
-    if (!edits.isEmpty()) {
-        const auto newest = Documents().MakeDocumentFile();
-        newest->Open(localPath);
-        RequireUnchanged(*newest, *configDocument, edits, partfilename);
-        WriteConfigurations(*newest, edits);
-        newest->Save();
-    }
+    if (!edits.isEmpty())
+        SaveConfigurations(localPath, *configDocument, edits, partfilename);
     return (edits.isEmpty() && !IsUploadPending(partfilename)) || UploadSaved(partfilename, url);
 }
 

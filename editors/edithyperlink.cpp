@@ -138,16 +138,7 @@ void EditHyperLink::Save() {
 // False when the server has not taken the document, which the upload has told.
 bool EditHyperLink::Write() {
     const QString url = UrlToUpload(partfilename, localPath);
-    const auto newest = Documents().MakeDocumentFile();
-    newest->OpenHyperlinks(localPath);
-    if (newest->GetStamp(Table::Hyperlinks) != hyperlinkDocument->GetStamp(Table::Hyperlinks))
-        throw DocumentError(QStringLiteral("The hyperlinks of %1 were changed by another program "
-                                           "since they were loaded. Load them again and repeat "
-                                           "your changes.")
-                                .arg(partfilename));
-    const bool changed = hyperlinks_->Write(*newest);
-    if (changed)
-        newest->SaveHyperlinks();
+    const bool changed = hyperlinks_->Save(localPath, *hyperlinkDocument, partfilename);
     return (!changed && !IsUploadPending(partfilename)) || UploadSaved(partfilename, url);
 }
 

@@ -2,6 +2,7 @@
 
 #include "editors/pendingtext.h"
 #include "services/docaccess.h"
+#include "services/documentlibrary.h"
 #include "services/paths.h"
 
 namespace docbench {
@@ -65,6 +66,20 @@ bool HyperlinkTree::Write(DocumentFile& file) const {
         file.SetHyperlink(StoredPosition(At(node)), current);
         changed = true;
     }
+    return changed;
+}
+
+bool HyperlinkTree::Save(const QString& local, DocumentFile& loaded, const QString& path) const {
+    const auto newest = Documents().MakeDocumentFile();
+    newest->OpenHyperlinks(local);
+    if (newest->GetStamp(Table::Hyperlinks) != loaded.GetStamp(Table::Hyperlinks))
+        throw DocumentError(QStringLiteral("The hyperlinks of %1 were changed by another program "
+                                           "since they were loaded. Load them again and repeat "
+                                           "your changes.")
+                                .arg(path));
+    const bool changed = Write(*newest);
+    if (changed)
+        newest->SaveHyperlinks();
     return changed;
 }
 

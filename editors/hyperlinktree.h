@@ -30,6 +30,9 @@ public:
     // Sets the changed texts on an open document, and tells whether there was any. Nothing is on
     // the disk before it is saved.
     bool Write(DocumentFile& file) const;
+    // The same on the file at `local` as it is now, and saves it if there was any. Raises when its
+    // hyperlinks are no longer those of `loaded`; `path` is named in the error.
+    bool Save(const QString& local, DocumentFile& loaded, const QString& path) const;
 
 private:
     const CellNode& At(int node) const { return tree_.Nodes().At(node); }

@@ -5,6 +5,7 @@
 
 #include "editors/pendinguploads.h"
 #include "editors/propertyrows.h"
+#include "editors/propertysave.h"
 #include "frame/desccontrol.h"
 #include "services/dialogs.h"
 #include "services/docaccess.h"
@@ -29,16 +30,6 @@ void Warn(const QString& text) {
 
 void SetFieldName(QWidget* field, int index) {
     field->setObjectName(QStringLiteral("Summary(%1)").arg(index));
-}
-
-// Raises when the properties are no longer those that the pane has read.
-void RequireUnchanged(DocumentInfo& info, PropertyGroup group, const QByteArray& loaded,
-                      const QString& path) {
-    if (info.GetStamp(group) != loaded)
-        throw DocumentError(QStringLiteral("The properties of %1 were changed by another program "
-                                           "since they were loaded. Load them again and repeat "
-                                           "your changes.")
-                                .arg(path));
 }
 
 }  // namespace
@@ -287,17 +278,8 @@ bool PropertiesBox::LeaveConfiguration() {
     return false;
 }
 
-// The set of a configuration by its position; null when it has none. Raises when another one
-// stands there now.
 std::unique_ptr<DocumentInfo> PropertiesBox::OpenConfiguration(int index) const {
-    const auto file = Documents().MakeDocumentFile();
-    file->Open(LocalCopyOf(partfilename));
-    std::unique_ptr<DocumentInfo> set = file->GetCustomProperties(index);
-    if (set && file->GetConfiguration(index) != ui_->List1->item(index)->text())
-        throw DocumentError(QStringLiteral("The configurations of %1 were changed since they were "
-                                           "listed. Load the document again.")
-                                .arg(partfilename));
-    return set;
+    return OpenConfigurationSet(partfilename, index, ui_->List1->item(index)->text());
 }
 
 void PropertiesBox::ShowConfiguration(int index) {
@@ -338,9 +320,8 @@ bool PropertiesBox::WriteConfiguration(int index) {
         throw DocumentError(QStringLiteral("The configuration %1 is no longer in %2. Load the "
                                            "document again.")
                                 .arg(ui_->List1->item(index)->text(), partfilename));
-    RequireUnchanged(*set, PropertyGroup::Custom, configStamp_, partfilename);
-    WriteProperties(ui_->configSet->List(), *set, deletedConfigNames);
-    set->Save();
+    SaveConfigurationSet(*set, {ui_->configSet->List(), deletedConfigNames, configStamp_},
+                         partfilename);
     configStamp_ = set->GetStamp(PropertyGroup::Custom);
     deletedConfigNames.clear();
     configDirty = false;
@@ -352,15 +333,12 @@ void PropertiesBox::WriteDocument() {
     if (!info->Open(LocalCopyOf(partfilename)))
         return Warn(Format(Text::PropertiesNotOpened, partfilename));
     const SummaryEdits typed = TypedSummary();
-    if (HasEdits(typed))
-        RequireUnchanged(*info, PropertyGroup::Summary, summaryStamp_, partfilename);
-    if (customDirty)
-        RequireUnchanged(*info, PropertyGroup::Custom, customStamp_, partfilename);
+    DocumentEdits edits{.summaryStamp = summaryStamp_};
     if (summaryDirty)
-        WriteSummary(*info, typed);
+        edits.summary = typed;
     if (customDirty)
-        WriteProperties(ui_->customSet->List(), *info, deletedCustomNames);
-    info->Save();
+        edits.custom.emplace(SetEdits{ui_->customSet->List(), deletedCustomNames, customStamp_});
+    SaveDocumentProperties(*info, edits, partfilename);
     TakeAsRead(*info, HasEdits(typed));
     summaryDirty = customDirty = false;
     Upload();

@@ -103,6 +103,13 @@ bool IsAmbiguous(const QStringList& names, const QString& name) {
     return exact > 1 || (exact == 0 && same > 1);
 }
 
+QString AmbiguityReason(const QString& document, const QString& name) {
+    return QStringLiteral(
+               "The document %1 has several properties that the name \"%2\" can stand for, and the "
+               "change could hit the wrong one. Change them in the program that made the document.")
+        .arg(document, name);
+}
+
 int FindProperty(const CellList& list, const QString& name) {
     int found = -1;
     for (int row = 0; row < list.Count(); ++row) {

@@ -34,6 +34,8 @@ QStringList PropertyNames(DocumentInfo& set);
 // Whether several of the names answer to `name` equally well, as only documents of others have
 // them: an exact one goes before one in another case of letters.
 bool IsAmbiguous(const QStringList& names, const QString& name);
+// Why a property is not changed by an ambiguous name.
+QString AmbiguityReason(const QString& document, const QString& name);
 
 // The row of a name, which is the same in any case of letters, or -1. An exact one goes first.
 int FindProperty(const CellList& list, const QString& name);

@@ -161,14 +161,8 @@ void PropertySetBox::ClearInput() {
 bool PropertySetBox::CanEdit(const QString& name) const {
     if (!IsAmbiguous(stored_, name))
         return true;
-    const QString reason =
-        QStringLiteral(
-            "The document %1 has several properties that the name \"%2\" can stand for, "
-            "and the change could hit the wrong one. Change them in the program that "
-            "made the document.")
-            .arg(document_, name);
-    gSeams.dialogs->Box(Format(Text::PropertiesWriteError, reason), Dialogs::Icon::Exclamation,
-                        gAppTitle);
+    gSeams.dialogs->Box(Format(Text::PropertiesWriteError, AmbiguityReason(document_, name)),
+                        Dialogs::Icon::Exclamation, gAppTitle);
     return false;
 }
 

@@ -108,6 +108,16 @@ QString ToPropertyKey(const QString& text) {
     return text;
 }
 
+QString LabelOfProperty(const QString& text) {
+    for (const SearchProperty& property : kProperties) {
+        const QString key = QLatin1String(property.key ? property.key : "File name");
+        for (const QString& name : {QString(Tr(property.label)), key})
+            if (name.compare(text, Qt::CaseInsensitive) == 0)
+                return Tr(property.label);
+    }
+    return text;
+}
+
 QVariant ToValue(int code, const QString& text) {
     if (code == kIsYes || code == kIsNo)
         return code == kIsYes;

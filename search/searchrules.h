@@ -43,6 +43,9 @@ CellRow MakeRule(const QString& connective, const QString& property, const QStri
 // The name by which the document library knows a property: that of a label of PropertyLabels, else
 // the text itself.
 QString ToPropertyKey(const QString& text);
+// The label of PropertyLabels that a text means, whatever its case of letters: a label, or the
+// English name of the property. Any other text is that of a custom property, and stays.
+QString LabelOfProperty(const QString& text);
 // A rule's value by its kind: QDateTime, double, bool, QString, or invalid. Dates and numbers are
 // read by the user's locale.
 QVariant ToValue(int code, const QString& text);

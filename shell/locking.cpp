@@ -57,15 +57,19 @@ std::optional<bool> ReadLockState(const QString& path) {
     return locked;
 }
 
-void ReportAccessState(int code, const QString& path) {
+QString AccessStateText(int code, const QString& path) {
     switch (code) {
         case kReadOnly:
-            return Warn(Format(Text::AccessReadOnly, path));
+            return Format(Text::AccessReadOnly, path);
         case kInUse:
-            return Warn(Format(Text::AccessInUse, path));
+            return Format(Text::AccessInUse, path);
         default:
-            return Warn(Format(Text::AccessRefused, path));
+            return Format(Text::AccessRefused, path);
     }
+}
+
+void ReportAccessState(int code, const QString& path) {
+    Warn(AccessStateText(code, path));
 }
 
 void ApplyLock(ReferenceTree& tree, bool wantLocked, int node) {

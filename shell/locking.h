@@ -10,7 +10,9 @@ namespace docbench {
 // Whether the document at `path` is locked; none when its record can't be opened.
 std::optional<bool> ReadLockState(const QString& path);
 
-// Shows why a document can't be written; `code` is that of DocumentFile::GetAccessState.
+// Why a document can't be written, and the same in a box; `code` is that of
+// DocumentFile::GetAccessState.
+QString AccessStateText(int code, const QString& path);
 void ReportAccessState(int code, const QString& path);
 
 // Locks or unlocks the document of one node under the user's name. Only who locked a document can

@@ -3,8 +3,15 @@
 #include <QFileInfo>
 #include <algorithm>
 
+#include "platform/xlsxspreadsheet.h"
+#include "services/documentlibrary.h"
+#include "services/folderlists.h"
+#include "services/language.h"
 #include "services/paths.h"
 #include "services/webauthority.h"
+#include "services/webcopies.h"
+#include "services/webdocument.h"
+#include "shell/locking.h"
 
 namespace docbench {
 
@@ -12,15 +19,60 @@ namespace {
 
 const QString kInOption = QStringLiteral("in");
 const QString kNoSubfoldersOption = QStringLiteral("no-subfolders");
+const QString kKindsOption = QStringLiteral("kinds");
+const QString kOutputOption = QStringLiteral("output");
 
 // Named lists begin with a blank, addresses stay as they are, folders are taken from here.
 QString WholeFolder(const QString& folder) {
-    if (IsWebPath(folder) || folder.startsWith(u' '))
+    if (IsWebPath(folder))
         return folder;
-    return QFileInfo(folder).absoluteFilePath();
+    if (folder.startsWith(u' ')) {
+        if (ExpandFolderList(folder).isEmpty())
+            throw UsageError(QStringLiteral("There is no folder list \"%1\". docbench list shows "
+                                            "those that there are.")
+                                 .arg(folder.mid(1)));
+        return folder;
+    }
+    const QFileInfo place(folder);
+    if (!place.isDir())
+        throw UsageError(QStringLiteral("There is no folder %1.").arg(folder));
+    return place.absoluteFilePath();
 }
 
 }  // namespace
+
+std::unique_ptr<DocumentFile> OpenDocument(const QString& path) {
+    gWebDocument = IsWebPath(path);
+    try {
+        auto file = Documents().MakeDocumentFile();
+        file->Open(LocalCopyOf(path));
+        return file;
+    } catch (const DocumentError& error) {
+        throw NoDocumentError(error.Description());
+    }
+}
+
+void RequireTables(DocumentFile& file, const QString& path) {
+    if (!file.IsCurrentFormat())
+        throw DocumentError(QStringLiteral("%1: %2").arg(path, gOldFormatText));
+}
+
+QString WritingProblem(const QString& path) {
+    const int code = Documents().MakeDocumentFile()->GetAccessState(LocalCopyOf(path));
+    return code == 0 ? QString() : AccessStateText(code, path);
+}
+
+void RequireWritable(const QString& path) {
+    if (const QString problem = WritingProblem(path); !problem.isEmpty())
+        throw DocumentError(problem);
+}
+
+void RequireUnlocked(const QString& path) {
+    const auto info = Documents().MakeDocumentInfo();
+    if (info->Open(LocalCopyOf(path)) && info->GetLocked())
+        throw DocumentError(
+            QStringLiteral("%1 is locked by %2: unlock it first.").arg(path, info->GetLockedBy()));
+}
 
 QString DocumentPath(const QString& word) {
     return IsWebPath(word) ? word : QFileInfo(word).absoluteFilePath();
@@ -53,24 +105,77 @@ QString Wrapped(const QString& text) {
     return lines.trimmed();
 }
 
-void AddFolderOptions(QCommandLineParser& parser) {
-    parser.addOption({kInOption,
-                      QStringLiteral("Folder to search; may be given several times. A name with a "
-                                     "blank before it is a named folder list. Default: the folder "
-                                     "of FILE."),
-                      QStringLiteral("FOLDER")});
-    parser.addOption({kNoSubfoldersOption, QStringLiteral("Leaves the folders below out.")});
+QList<QCommandLineOption> FolderOptions(const QString& otherwise) {
+    return {{kInOption,
+             QStringLiteral("Folder to search; may be given several times. A name with a blank "
+                            "before it is a named folder list. Default: %1.")
+                 .arg(otherwise),
+             QStringLiteral("FOLDER")},
+            {kNoSubfoldersOption, QStringLiteral("Leaves the folders below out.")}};
+}
+
+bool LimitsSearch(const QCommandLineParser& line) {
+    return line.isSet(kInOption) || line.isSet(kNoSubfoldersOption) || line.isSet(kKindsOption);
 }
 
 bool WithSubfolders(const QCommandLineParser& line) {
     return !line.isSet(kNoSubfoldersOption);
 }
 
-QString FoldersToSearch(const QCommandLineParser& line, const QString& document) {
+QString FoldersToSearch(const QCommandLineParser& line, const QString& otherwise) {
     QStringList folders;
     for (const QString& folder : line.values(kInOption))
         folders.append(WholeFolder(folder));
-    return folders.isEmpty() ? FolderOf(document) : folders.join(u';');
+    if (folders.isEmpty())
+        folders.append(WholeFolder(otherwise));
+    for (const QString& folder : folders) {
+        if (folder.contains(u';'))
+            throw UsageError(QStringLiteral("The folder %1 can't be searched: a \";\" in its name "
+                                            "stands between two folders.")
+                                 .arg(folder));
+    }
+    return folders.join(u';');
+}
+
+QCommandLineOption KindsOption() {
+    return {kKindsOption,
+            QStringLiteral("Kinds of use that count, with commas between them: references, "
+                           "in-context, mirrored. Default: all."),
+            QStringLiteral("KINDS")};
+}
+
+UseKinds KindsToFind(const QCommandLineParser& line) {
+    if (!line.isSet(kKindsOption))
+        return {};
+    UseKinds kinds{.references = false, .inContext = false, .mirrored = false};
+    for (const QString& kind : line.value(kKindsOption).split(u',')) {
+        if (kind == QLatin1String("references"))
+            kinds.references = true;
+        else if (kind == QLatin1String("in-context"))
+            kinds.inContext = true;
+        else if (kind == QLatin1String("mirrored"))
+            kinds.mirrored = true;
+        else
+            throw UsageError(QStringLiteral("There is no kind of use \"%1\".").arg(kind));
+    }
+    return kinds;
+}
+
+QCommandLineOption OutputOption() {
+    return {{QStringLiteral("o"), kOutputOption},
+            QStringLiteral("Writes the list to a spreadsheet: comma separated values if the name "
+                           "ends in .csv, else .xlsx."),
+            QStringLiteral("FILE")};
+}
+
+void WriteOutput(const TextTable& table, const QCommandLineParser& line) {
+    if (!line.isSet(kOutputOption))
+        return;
+    const QString file = line.value(kOutputOption);
+    if (file.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive))
+        WriteCsv(table, file);
+    else
+        WriteXlsx(table, file);
 }
 
 }  // namespace docbench

@@ -1,9 +1,16 @@
 // A subcommand of the command line: one class each.
 #pragma once
 
+#include <QCommandLineOption>
 #include <QCommandLineParser>
+#include <QList>
 #include <QString>
 #include <QStringList>
+#include <memory>
+
+#include "panes/usekinds.h"
+#include "services/docaccess.h"
+#include "services/listtable.h"
 
 namespace docbench {
 
@@ -17,13 +24,14 @@ public:
     virtual QString Summary() const = 0;    // one line, for the list of commands
     virtual QString Arguments() const = 0;  // "FILE NEWNAME"
     virtual QString Help() const = 0;       // what it does, with an example; paragraphs
-    virtual void AddOptions(QCommandLineParser& parser) const = 0;
+    // Its own; those that every command has are told by OptionsOf.
+    virtual QList<QCommandLineOption> Options() const { return {}; }
     // How many words it takes.
     virtual int FewestWords() const { return 1; }
     virtual int MostWords() const { return 1; }
 
     // Does it and gives the program's exit code. Errors may be raised; they are told, and end with
-    // the code for what was done in part.
+    // the code for what was done in part, or with that of their class.
     virtual int Run(const QCommandLineParser& line, Console& console) const = 0;
 
 protected:
@@ -31,6 +39,27 @@ protected:
     Command(const Command&) = delete;
     Command& operator=(const Command&) = delete;
 };
+
+// Raised for words or options that make no sense: ends with the code of wrong usage.
+class UsageError : public DocumentError {
+    using DocumentError::DocumentError;
+};
+
+// Raised when the document that a command is about can't be opened: ends with the code for that.
+class NoDocumentError : public DocumentError {
+    using DocumentError::DocumentError;
+};
+
+// The document at a path or address, open. Raises NoDocumentError.
+std::unique_ptr<DocumentFile> OpenDocument(const QString& path);
+
+// Raise DocumentError for a document that is too old to have tables, that may not be written, or
+// that somebody has reserved.
+void RequireTables(DocumentFile& file, const QString& path);
+void RequireWritable(const QString& path);
+void RequireUnlocked(const QString& path);
+// Why a document may not be written; empty when it may.
+QString WritingProblem(const QString& path);
 
 // The whole path of a document that was named on the line; an address as it stands.
 QString DocumentPath(const QString& word);
@@ -41,9 +70,19 @@ QString PasswordProblem(const QStringList& words);
 // Text for a terminal: its paragraphs in lines of at most 80 characters; indented ones stay.
 QString Wrapped(const QString& text);
 
-// Folders to search: those of the option, or the one that the document is in.
-void AddFolderOptions(QCommandLineParser& parser);
+// Folders to search: those of the options, else `otherwise`. Raises UsageError for one that is not
+// there.
+QList<QCommandLineOption> FolderOptions(const QString& otherwise);
+bool LimitsSearch(const QCommandLineParser& line);  // by one of them, or by the kinds below
 bool WithSubfolders(const QCommandLineParser& line);
-QString FoldersToSearch(const QCommandLineParser& line, const QString& document);
+QString FoldersToSearch(const QCommandLineParser& line, const QString& otherwise);
+
+// Which kinds of use a search for the users of a document looks for. Raises UsageError.
+QCommandLineOption KindsOption();
+UseKinds KindsToFind(const QCommandLineParser& line);
+
+// The file that a list is written to, and writing it; nothing is written without the option.
+QCommandLineOption OutputOption();
+void WriteOutput(const TextTable& table, const QCommandLineParser& line);
 
 }  // namespace docbench

@@ -2,11 +2,16 @@
 
 #include <QTextStream>
 
+#include "app/commands/configurationscommand.h"
 #include "app/commands/console.h"
+#include "app/commands/copycommand.h"
+#include "app/commands/hyperlinkscommand.h"
 #include "app/commands/listcommand.h"
 #include "app/commands/lockcommand.h"
+#include "app/commands/propertiescommand.h"
 #include "app/commands/referencescommand.h"
 #include "app/commands/renamecommand.h"
+#include "app/commands/searchcommand.h"
 #include "app/commands/treecommand.h"
 #include "app/commands/whereusedcommand.h"
 #include "app/consoledialogs.h"
@@ -26,15 +31,6 @@ namespace {
 const QString kHelpOption = QStringLiteral("help");
 const QString kJsonOption = QStringLiteral("json");
 const QString kNullOption = QStringLiteral("null");
-
-void PrepareParser(const Command& command, QCommandLineParser& parser) {
-    parser.addOptions(
-        {{{QStringLiteral("h"), kHelpOption}, QStringLiteral("Shows this text.")},
-         {kJsonOption, QStringLiteral("Prints JSON.")},
-         {{QStringLiteral("0"), kNullOption},
-          QStringLiteral("Prints documents alone, each with a NUL behind it: for xargs -0.")}});
-    command.AddOptions(parser);
-}
 
 int WrongUsage(const Command& command, const QString& message) {
     QTextStream(stderr) << message << "\nTry docbench " << command.Name() << " --help.\n";
@@ -56,6 +52,13 @@ int RunWithSeams(const Command& command, const QCommandLineParser& parser) {
                                                                     : Console::Format::Text);
         try {
             result = command.Run(parser, console);
+        } catch (const UsageError& error) {
+            console.Warn(error.Description());
+            console.Warn(QStringLiteral("Try docbench %1 --help.").arg(command.Name()));
+            result = kExitUsage;
+        } catch (const NoDocumentError& error) {
+            console.Warn(error.Description());
+            result = kExitNoDocument;
         } catch (const std::exception& error) {
             console.Warn(DescriptionOf(error));
         }
@@ -74,16 +77,29 @@ const std::vector<std::unique_ptr<Command>>& AllCommands() {
         all.push_back(std::make_unique<TreeCommand>());
         all.push_back(std::make_unique<ReferencesCommand>());
         all.push_back(std::make_unique<WhereUsedCommand>());
+        all.push_back(std::make_unique<SearchCommand>());
         all.push_back(std::make_unique<RenameCommand>(RenameCommand::Does::Rename));
         all.push_back(std::make_unique<RenameCommand>(RenameCommand::Does::Replace));
-        all.push_back(std::make_unique<ContentsCommand>(ContentsCommand::Lists::Configurations));
-        all.push_back(std::make_unique<ContentsCommand>(ContentsCommand::Lists::Hyperlinks));
+        all.push_back(std::make_unique<CopyCommand>());
+        all.push_back(std::make_unique<PropertiesCommand>());
+        all.push_back(std::make_unique<ConfigurationsCommand>());
+        all.push_back(std::make_unique<HyperlinksCommand>());
         all.push_back(std::make_unique<LockCommand>(LockCommand::Does::Lock));
         all.push_back(std::make_unique<LockCommand>(LockCommand::Does::Unlock));
         all.push_back(std::make_unique<ListCommand>());
         return all;
     }();
     return commands;
+}
+
+QList<QCommandLineOption> OptionsOf(const Command& command) {
+    const QList<QCommandLineOption> common{
+        {{QStringLiteral("h"), kHelpOption}, QStringLiteral("Shows this text.")},
+        {kJsonOption, QStringLiteral("Prints JSON.")},
+        {{QStringLiteral("0"), kNullOption},
+         QStringLiteral("Prints the first column alone, each entry with a NUL behind it: for xargs "
+                        "-0.")}};
+    return common + command.Options();
 }
 
 const Command* FindCommand(const QString& name) {
@@ -96,18 +112,19 @@ const Command* FindCommand(const QString& name) {
 
 QString HelpOf(const Command& command) {
     QCommandLineParser parser;
-    parser.setApplicationDescription(Wrapped(command.Help()) + u'\n');
-    PrepareParser(command, parser);
+    parser.setApplicationDescription(Wrapped(command.Help()));
+    parser.addOptions(OptionsOf(command));
     // The toolkit's words know of no commands: its first line, "Usage: ...", is put right.
     QString text = parser.helpText();
-    return QStringLiteral("Usage: docbench %1 [options] %2\n")
-               .arg(command.Name(), command.Arguments()) +
-           text.mid(text.indexOf(u'\n') + 1);
+    return QStringLiteral("Usage: docbench %1 [options] %2")
+               .arg(command.Name(), command.Arguments())
+               .trimmed() +
+           u'\n' + text.mid(text.indexOf(u'\n') + 1);
 }
 
 int RunCommand(const Command& command, const QStringList& words) {
     QCommandLineParser parser;
-    PrepareParser(command, parser);
+    parser.addOptions(OptionsOf(command));
     if (!parser.parse(QStringList{QStringLiteral("docbench")} + words))
         return WrongUsage(command, parser.errorText());
     if (parser.isSet(kHelpOption)) {
@@ -116,9 +133,10 @@ int RunCommand(const Command& command, const QStringList& words) {
     }
     const qsizetype count = parser.positionalArguments().size();
     if (count < command.FewestWords() || count > command.MostWords())
-        return WrongUsage(
-            command,
-            QStringLiteral("The command %1 takes %2.").arg(command.Name(), command.Arguments()));
+        return WrongUsage(command, QStringLiteral("The command %1 takes %2.")
+                                       .arg(command.Name(), command.Arguments().isEmpty()
+                                                                ? QStringLiteral("options alone")
+                                                                : command.Arguments()));
     QStringList given = parser.positionalArguments();
     for (const QString& option : parser.optionNames())
         given += parser.values(option);

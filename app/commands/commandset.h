@@ -13,6 +13,9 @@ const std::vector<std::unique_ptr<Command>>& AllCommands();
 // Null for a word that is no command.
 const Command* FindCommand(const QString& name);
 
+// All options that a command takes, those that every command has first.
+QList<QCommandLineOption> OptionsOf(const Command& command);
+
 // The help of one command, as "docbench NAME --help" prints it.
 QString HelpOf(const Command& command);
 

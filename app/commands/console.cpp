@@ -1,6 +1,7 @@
 #include "app/commands/console.h"
 
 #include <unistd.h>
+#include <wchar.h>
 
 #include <QCommandLineParser>
 #include <QJsonArray>
@@ -26,14 +27,45 @@ QString OneLine(QString text) {
     return text;
 }
 
+// The columns that a text takes on a terminal, where many characters of East Asia take two.
+qsizetype WidthOf(const QString& text) {
+    qsizetype width = 0;
+    for (const char32_t one : text.toUcs4()) {
+        const int columns = wcwidth(wchar_t(one));
+        width += columns < 0 ? 1 : columns;  // the system knows no better
+    }
+    return width;
+}
+
 std::vector<qsizetype> Widths(const TextTable& table) {
     std::vector<qsizetype> widths;
     for (const auto& row : table) {
         widths.resize(std::max(widths.size(), size_t(row.size())));
         for (size_t i = 0; i < size_t(row.size()); ++i)
-            widths[i] = std::max(widths[i], row[i].size());
+            widths[i] = std::max(widths[i], WidthOf(OneLine(row[i])));
     }
     return widths;
+}
+
+void WriteTable(const TextTable& table, QTextStream& stream, bool boldHeaders) {
+    const std::vector<qsizetype> widths = Widths(table);
+    for (size_t row = 0; row < table.size(); ++row) {
+        QString line;
+        for (size_t i = 0; i < size_t(table[row].size()); ++i) {
+            const QString cell = OneLine(table[row][i]);
+            line += cell + QString(widths[i] + 2 - WidthOf(cell), u' ');
+        }
+        while (line.endsWith(u' '))
+            line.chop(1);
+        if (row == 0 && boldHeaders)
+            line = QStringLiteral("\x1b[1m") + line + QStringLiteral("\x1b[0m");
+        stream << line << '\n';
+    }
+}
+
+// The columns that hold whole numbers.
+bool IsNumberColumn(const QString& header) {
+    return header == QLatin1String("Position") || header == QLatin1String("Size");
 }
 
 }  // namespace
@@ -59,17 +91,13 @@ void Console::PrintTable(const TextTable& table) {
             out_ << table[row].front() << QChar(u'\0');
         return;
     }
-    const std::vector<qsizetype> widths = Widths(table);
-    for (size_t row = 0; row < table.size(); ++row) {
-        QString line;
-        for (size_t i = 0; i < size_t(table[row].size()); ++i)
-            line += OneLine(table[row][i]).leftJustified(widths[i] + 2);
-        while (line.endsWith(u' '))
-            line.chop(1);
-        if (row == 0 && coloured_)
-            line = QStringLiteral("\x1b[1m") + line + QStringLiteral("\x1b[0m");
-        out_ << line << '\n';
-    }
+    WriteTable(table, out_, coloured_);
+}
+
+// On standard error, as the question is: standard output may lead to a file, or take JSON.
+void Console::ShowPlan(const TextTable& table) {
+    ShowProgress(QString());
+    WriteTable(table, err_, false);
 }
 
 void Console::PrintJson(QJsonObject result) {
@@ -105,6 +133,13 @@ void Console::Warn(const QString& text) {
     err_.flush();
 }
 
+void Console::WarnOfUnread(int documents) {
+    if (documents == 1)
+        Warn(QStringLiteral("1 document could not be read."));
+    else if (documents > 1)
+        Warn(QStringLiteral("%1 documents could not be read.").arg(documents));
+}
+
 bool Console::Ask(const QString& question) {
     out_.flush();
     err_ << question << " [y/N] ";
@@ -117,11 +152,10 @@ bool Console::IsInteractive() {
     return isatty(STDIN_FILENO) == 1 && isatty(STDERR_FILENO) == 1;
 }
 
-void AddChangeOptions(QCommandLineParser& parser) {
-    parser.addOption(
-        {kDryRunOption, QStringLiteral("Prints what would be written, and changes nothing.")});
-    parser.addOption({{QStringLiteral("y"), kYesOption},
-                      QStringLiteral("Doesn't ask. Needed where nobody can be asked.")});
+QList<QCommandLineOption> ChangeOptions() {
+    return {{kDryRunOption, QStringLiteral("Prints what would be written, and changes nothing.")},
+            {{QStringLiteral("y"), kYesOption},
+             QStringLiteral("Doesn't ask. Needed where nobody can be asked.")}};
 }
 
 Decision DecideAbout(const TextTable& plan, const QCommandLineParser& line, Console& console) {
@@ -135,7 +169,7 @@ Decision DecideAbout(const TextTable& plan, const QCommandLineParser& line, Cons
         return Decision::Go;
     if (!Console::IsInteractive())
         return Decision::NeedsYes;
-    console.PrintTable(plan);
+    console.ShowPlan(plan);
     return console.Ask(QStringLiteral("Write this?")) ? Decision::Go : Decision::No;
 }
 
@@ -156,12 +190,24 @@ int ExitCodeOf(Decision decision, Console& console) {
     return kExitDone;
 }
 
+int TellChanged(const QString& document, bool isChanged, bool done, Console& console) {
+    const TextTable outcome = {{QStringLiteral("Document"), QStringLiteral("Status")},
+                               {document, !isChanged ? QStringLiteral("unchanged")
+                                          : done     ? QStringLiteral("updated")
+                                                     : QStringLiteral("failed")}};
+    console.PrintTable(outcome);
+    console.PrintJson({{QStringLiteral("rows"), RowsAsJson(outcome)}});
+    return done ? kExitDone : kExitPartly;
+}
+
 QJsonArray RowsAsJson(const TextTable& table) {
     QJsonArray rows;
     for (size_t row = 1; row < table.size(); ++row) {
         QJsonObject object;
         for (size_t i = 0; i < size_t(table[row].size()); ++i)
-            object.insert(table.front()[i].toLower(), table[row][i]);
+            object.insert(table.front()[i].toLower(), IsNumberColumn(table.front()[i])
+                                                          ? QJsonValue(table[row][i].toLongLong())
+                                                          : QJsonValue(table[row][i]));
         rows.append(object);
     }
     return rows;

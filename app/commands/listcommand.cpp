@@ -70,8 +70,8 @@ QString ListCommand::Help() const {
         "  docbench where-used --in ' Vendors' bolt.tfmprt\n");
 }
 
-void ListCommand::AddOptions(QCommandLineParser& parser) const {
-    parser.addOption({kDeleteOption, QStringLiteral("Deletes the list NAME.")});
+QList<QCommandLineOption> ListCommand::Options() const {
+    return {{kDeleteOption, QStringLiteral("Deletes the list NAME.")}};
 }
 
 int ListCommand::Run(const QCommandLineParser& line, Console& console) const {

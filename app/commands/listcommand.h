@@ -13,7 +13,7 @@ public:
     }
     QString Arguments() const override { return QStringLiteral("[NAME [FOLDER...]]"); }
     QString Help() const override;
-    void AddOptions(QCommandLineParser& parser) const override;
+    QList<QCommandLineOption> Options() const override;
     int FewestWords() const override { return 0; }
     int MostWords() const override { return 1'000; }
     int Run(const QCommandLineParser& line, Console& console) const override;

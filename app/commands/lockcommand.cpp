@@ -51,10 +51,10 @@ QString LockCommand::Help() const {
         .arg(Name());
 }
 
-void LockCommand::AddOptions(QCommandLineParser& parser) const {
-    parser.addOption(
-        {kBelowOption, QStringLiteral("The documents below FILE in its tree, without itself.")});
-    AddChangeOptions(parser);
+QList<QCommandLineOption> LockCommand::Options() const {
+    QList<QCommandLineOption> options{
+        {kBelowOption, QStringLiteral("The documents below FILE in its tree, without itself.")}};
+    return options + ChangeOptions();
 }
 
 int LockCommand::Run(const QCommandLineParser& line, Console& console) const {

@@ -4,36 +4,10 @@
 
 #include "app/commands/console.h"
 #include "app/exitcodes.h"
-#include "services/documentlibrary.h"
 #include "services/paths.h"
 #include "services/webcopies.h"
-#include "services/webdocument.h"
 
 namespace docbench {
-
-namespace {
-
-// The document named on the line, open; null with a message when it can't be.
-std::unique_ptr<DocumentFile> OpenNamed(const QCommandLineParser& line, Console& console) {
-    const QString document = DocumentPath(line.positionalArguments().first());
-    gWebDocument = IsWebPath(document);
-    try {
-        auto file = Documents().MakeDocumentFile();
-        file->Open(LocalCopyOf(document));
-        return file;
-    } catch (const DocumentError& error) {
-        console.Warn(error.Description());
-        return nullptr;
-    }
-}
-
-int Print(const TextTable& table, Console& console) {
-    console.PrintTable(table);
-    console.PrintJson({{QStringLiteral("rows"), RowsAsJson(table)}});
-    return kExitDone;
-}
-
-}  // namespace
 
 QString ReferencesCommand::Help() const {
     return QStringLiteral(
@@ -43,10 +17,8 @@ QString ReferencesCommand::Help() const {
 }
 
 int ReferencesCommand::Run(const QCommandLineParser& line, Console& console) const {
-    const auto file = OpenNamed(line, console);
-    if (!file)
-        return kExitNoDocument;
     const QString document = DocumentPath(line.positionalArguments().first());
+    const auto file = OpenDocument(document);
     const QString webFolder = IsWebPath(document) ? UrlFolder(document) : QString();
     const auto state = [](const QString& path) {
         return IsWebPath(path) || FileExists(path) ? QString() : QStringLiteral("missing");
@@ -61,40 +33,9 @@ int ReferencesCommand::Run(const QCommandLineParser& line, Console& console) con
         const QString path = file->GetExternalReference(i, webFolder).path;
         table.push_back({path, QStringLiteral("external"), QString::number(i + 1), state(path)});
     }
-    return Print(table, console);
-}
-
-QString ContentsCommand::Name() const {
-    return lists_ == Lists::Configurations ? QStringLiteral("configurations")
-                                           : QStringLiteral("hyperlinks");
-}
-
-QString ContentsCommand::Summary() const {
-    return lists_ == Lists::Configurations ? QStringLiteral("lists a document's configurations")
-                                           : QStringLiteral("lists a document's hyperlinks");
-}
-
-QString ContentsCommand::Help() const {
-    return QStringLiteral("One line each, in the document's order.\n\n  docbench %1 bolt.tfmprt\n")
-        .arg(Name());
-}
-
-int ContentsCommand::Run(const QCommandLineParser& line, Console& console) const {
-    const auto file = OpenNamed(line, console);
-    if (!file)
-        return kExitNoDocument;
-    TextTable table;
-    if (lists_ == Lists::Configurations) {
-        table.push_back({QStringLiteral("Configuration")});
-        for (int i = 0; i < file->GetConfigurationCount(); ++i)
-            table.push_back({file->GetConfiguration(i)});
-    } else {
-        table.push_back({QStringLiteral("Hyperlink")});
-        file->OpenHyperlinks(LocalCopyOf(DocumentPath(line.positionalArguments().first())));
-        for (int i = 0; i < file->GetHyperlinkCount(); ++i)
-            table.push_back({file->GetHyperlink(i)});
-    }
-    return Print(table, console);
+    console.PrintTable(table);
+    console.PrintJson({{QStringLiteral("rows"), RowsAsJson(table)}});
+    return kExitDone;
 }
 
 }  // namespace docbench

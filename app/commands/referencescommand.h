@@ -1,4 +1,4 @@
-// "docbench references", "configurations" and "hyperlinks": what one document holds.
+// "docbench references": what one document refers to.
 #pragma once
 
 #include "app/commands/command.h"
@@ -13,24 +13,7 @@ public:
     }
     QString Arguments() const override { return QStringLiteral("FILE"); }
     QString Help() const override;
-    void AddOptions(QCommandLineParser&) const override {}
     int Run(const QCommandLineParser& line, Console& console) const override;
-};
-
-class ContentsCommand : public Command {
-public:
-    enum class Lists { Configurations, Hyperlinks };
-    explicit ContentsCommand(Lists lists) : lists_(lists) {}
-
-    QString Name() const override;
-    QString Summary() const override;
-    QString Arguments() const override { return QStringLiteral("FILE"); }
-    QString Help() const override;
-    void AddOptions(QCommandLineParser&) const override {}
-    int Run(const QCommandLineParser& line, Console& console) const override;
-
-private:
-    const Lists lists_;
 };
 
 }  // namespace docbench

@@ -79,7 +79,7 @@ TextTable OutcomeAsTable(const CellList& list) {
         else if (row.ticked)
             table.push_back({holder.tag, QStringLiteral("failed"), holder.toolTip});
         else
-            table.push_back({holder.tag, QStringLiteral("left out"), QString()});
+            table.push_back({holder.tag, QStringLiteral("left out"), WritingProblem(holder.tag)});
     }
     return table;
 }
@@ -91,7 +91,7 @@ void Search(const QCommandLineParser& line, const RenamePlan& plan, CellList& li
     const RenameSearch search{
         .document = plan.oldPath,
         .parent = plan.parent,
-        .kinds = {},
+        .kinds = KindsToFind(line),
         .subfolders = WithSubfolders(line),
         .status = [&](const QString& text) { console.ShowProgress(text); },
         .yield = [] {},
@@ -101,7 +101,7 @@ void Search(const QCommandLineParser& line, const RenamePlan& plan, CellList& li
                 if (counts.unread > 0)
                     console.ShowProgress(QStringLiteral("%1 unread").arg(counts.unread));
             }};
-    SearchHolders(search, FoldersToSearch(line, plan.oldPath), rows);
+    SearchHolders(search, FoldersToSearch(line, FolderOf(plan.oldPath)), rows);
     rows.Flush();
 }
 
@@ -146,24 +146,23 @@ QString RenameCommand::Help() const {
                      "  docbench rename --in /work/gearbox --yes bolt.tfmprt m6-bolt\n");
 }
 
-void RenameCommand::AddOptions(QCommandLineParser& parser) const {
-    AddFolderOptions(parser);
-    parser.addOption(
+QList<QCommandLineOption> RenameCommand::Options() const {
+    QList<QCommandLineOption> options = FolderOptions(QStringLiteral("the folder of FILE"));
+    options.append(KindsOption());
+    options.append(
         {kRootOption,
          QStringLiteral("Assembly in whose reference tree FILE stands: the document above "
                         "FILE is updated first, and the new name must be that of none above."),
          QStringLiteral("ASSEMBLY")});
-    AddChangeOptions(parser);
+    return options + ChangeOptions();
 }
 
 int RenameCommand::Run(const QCommandLineParser& line, Console& console) const {
     const QStringList words = line.positionalArguments();
     const QString document = DocumentPath(words[0]);
     gWebDocument = IsWebPath(document);
-    if (!IsWebPath(document) && !FileExists(document)) {
-        console.Warn(Format(Text::DocumentNotFound, document));
-        return kExitNoDocument;
-    }
+    if (!IsWebPath(document) && !FileExists(document))
+        throw NoDocumentError(Format(Text::DocumentNotFound, document));
     const QString root = line.value(kRootOption);
     const RenameSubject subject{
         .fullName = document,

@@ -14,7 +14,7 @@ public:
     QString Summary() const override;
     QString Arguments() const override;
     QString Help() const override;
-    void AddOptions(QCommandLineParser& parser) const override;
+    QList<QCommandLineOption> Options() const override;
     int FewestWords() const override { return 2; }
     int MostWords() const override { return 2; }
     int Run(const QCommandLineParser& line, Console& console) const override;

@@ -27,9 +27,11 @@ struct NodeState {
 
 NodeState StateOf(const CellNode& node) {
     const bool circular = node.image == kPictureCircular;
+    const bool missing = !circular && node.foreColor == kColorRed;
+    // The picture of what is not there is that of the document before it.
     return {.circular = circular,
-            .missing = !circular && node.foreColor == kColorRed,
-            .locked = IsLockedPicture(node.image)};
+            .missing = missing,
+            .locked = !missing && IsLockedPicture(node.image)};
 }
 
 // How deep each node stands below its root, by node.

@@ -13,7 +13,6 @@ public:
     }
     QString Arguments() const override { return QStringLiteral("FILE"); }
     QString Help() const override;
-    void AddOptions(QCommandLineParser&) const override {}
     int Run(const QCommandLineParser& line, Console& console) const override;
 };
 

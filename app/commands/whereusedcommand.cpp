@@ -6,24 +6,10 @@
 #include "app/commands/console.h"
 #include "app/exitcodes.h"
 #include "panes/holdersearch.h"
-#include "platform/xlsxspreadsheet.h"
 #include "services/paths.h"
 #include "services/webdocument.h"
 
 namespace docbench {
-
-namespace {
-
-const QString kOutputOption = QStringLiteral("output");
-
-void WriteFile(const TextTable& table, const QString& file) {
-    if (file.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive))
-        WriteCsv(table, file);
-    else
-        WriteXlsx(table, file);
-}
-
-}  // namespace
 
 QString WhereUsedCommand::Help() const {
     return QStringLiteral(
@@ -32,12 +18,9 @@ QString WhereUsedCommand::Help() const {
         "  docbench where-used --in /work/gearbox --output users.csv bolt.tfmprt\n");
 }
 
-void WhereUsedCommand::AddOptions(QCommandLineParser& parser) const {
-    AddFolderOptions(parser);
-    parser.addOption({{QStringLiteral("o"), kOutputOption},
-                      QStringLiteral("Writes the list to a spreadsheet: comma separated values "
-                                     "if the name ends in .csv, else .xlsx."),
-                      QStringLiteral("FILE")});
+QList<QCommandLineOption> WhereUsedCommand::Options() const {
+    return FolderOptions(QStringLiteral("the folder of FILE")) +
+           QList{KindsOption(), OutputOption()};
 }
 
 int WhereUsedCommand::Run(const QCommandLineParser& line, Console& console) const {
@@ -49,6 +32,7 @@ int WhereUsedCommand::Run(const QCommandLineParser& line, Console& console) cons
     SearchCounts counts;
     const HolderSearch search{
         .document = document,
+        .kinds = KindsToFind(line),
         .subfolders = WithSubfolders(line),
         .onFailure = HolderSearch::OnFailure::Raises,
         .status = [&](const QString& text) { console.ShowProgress(text); },
@@ -63,17 +47,14 @@ int WhereUsedCommand::Run(const QCommandLineParser& line, Console& console) cons
                 listed.insert(key);
                 table.push_back({holder, relation, found.reference});
             }};
-    search.Run(FoldersToSearch(line, document));
-    if (line.isSet(kOutputOption))
-        WriteFile(table, line.value(kOutputOption));
+    search.Run(FoldersToSearch(line, FolderOf(document)));
+    WriteOutput(table, line);
     console.PrintTable(table);
     console.PrintJson({{QStringLiteral("documentsRead"), counts.documents},
                        {QStringLiteral("unread"), counts.unread},
                        {QStringLiteral("rows"), RowsAsJson(table)}});
-    if (counts.unread == 0)
-        return kExitDone;
-    console.Warn(QStringLiteral("%1 documents could not be read.").arg(counts.unread));
-    return kExitPartly;
+    console.WarnOfUnread(counts.unread);
+    return counts.unread == 0 ? kExitDone : kExitPartly;
 }
 
 }  // namespace docbench

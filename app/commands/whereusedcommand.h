@@ -13,7 +13,7 @@ public:
     }
     QString Arguments() const override { return QStringLiteral("FILE"); }
     QString Help() const override;
-    void AddOptions(QCommandLineParser& parser) const override;
+    QList<QCommandLineOption> Options() const override;
     int Run(const QCommandLineParser& line, Console& console) const override;
 };
 

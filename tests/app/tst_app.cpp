@@ -6,6 +6,7 @@
 #include <QProcess>
 #include <QTest>
 
+#include "docmodel/builder.h"
 #include "tests/support/apacheserver.h"
 #include "tests/support/faultserver.h"
 #include "tests/support/testdialogs.h"
@@ -18,30 +19,16 @@ class TestApp : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void treePrintsEveryRowWithItsPath();
     void treePrintsJson();
     void aWebFolderPrintsTheSameTreeAsTheDisk();
+    void aWebDocumentIsEditedWhereItIs();
+    void copiesGoToAndComeFromWebFolders();
     void aServerThatIsNotThereIsToldInWords();
     void thePasswordGoesToTheNamedServerAlone_data();
     void thePasswordGoesToTheNamedServerAlone();
     void aPasswordOnTheCommandLineIsRefused();
     void treeNeedsNoDisplay();
-    void aRelativePathIsTakenFromTheWorkingFolder();
-    void aMissingDocumentEndsWithThree();
-    void aDocumentThatIsNoneEndsWithThree();
-    void aChildThatCannotBeReadEndsWithOne();
-    void aDryRunPrintsThePlanAndTouchesNothing();
-    void renameMovesTheFileAndUpdatesItsHolders();
-    void withNobodyToAskItNeedsYes();
-    void aHolderThatIsLeftOutEndsWithOne();
-    void replaceMovesNothing();
-    void referencesListsBothTables();
-    void whereUsedListsTheHoldersAndWritesThem();
-    void lockAndUnlockReserveADocument();
-    void listKeepsTheFolderLists();
     void everyCommandHasItsHelp();
-    void wrongUsageEndsWithTwo_data();
-    void wrongUsageEndsWithTwo();
     void helpAndVersionArePrinted();
     void anUnattendedWindowWithoutItsDocumentEndsWithThree();
     void theWindowOpensWithTheDocument_data();
@@ -87,23 +74,6 @@ QString SmallAssembly(TestLibrary& library) {
 
 }  // namespace
 
-void TestApp::treePrintsEveryRowWithItsPath() {
-    TestLibrary library;
-    const Run run({QStringLiteral("tree"), SmallAssembly(library)});
-    QCOMPARE(run.code, 0);
-    const QString f = library.Folder() + u'/';
-    const QStringList lines = run.out.split(u'\n', Qt::SkipEmptyParts);
-    QCOMPARE(lines.size(), 6);
-    QCOMPARE(lines[0], QStringLiteral("top  ") + f + QStringLiteral("top.tfmasm"));
-    QCOMPARE(lines[1], QStringLiteral("  left  ") + f + QStringLiteral("left.tfmasm"));
-    QCOMPARE(lines[2], QStringLiteral("    pin  (6 x)  ") + f + QStringLiteral("pin.tfmprt"));
-    QVERIFY(lines[3].contains(QLatin1String("[circular]")));
-    QVERIFY(lines[4].contains(QLatin1String("[locked]")));
-    QVERIFY(lines[5].startsWith(QLatin1String("  lost [missing]")));
-    QVERIFY(lines[5].endsWith(f + QStringLiteral("lost.tfmprt")));
-    QVERIFY(run.err.contains(QLatin1String("top.tfmasm")));  // the message about the cycle
-}
-
 void TestApp::treePrintsJson() {
     TestLibrary library;
     const Run run({QStringLiteral("tree"), SmallAssembly(library), QStringLiteral("--json")});
@@ -138,6 +108,53 @@ void TestApp::aWebFolderPrintsTheSameTreeAsTheDisk() {
     expected.replace(library.Folder() + u'/', server.Url());
     QCOMPARE(web.out, expected);
     QVERIFY(web.out.contains(server.Url(QStringLiteral("pin.tfmprt"))));
+}
+
+void TestApp::aWebDocumentIsEditedWhereItIs() {
+    const ApacheServer server;
+    TestLibrary library;
+    const QString pin = library.Make("pin.tfmprt");
+    {
+        auto part = docmodel::DocumentBuilder::Edit(pin);
+        part.AddConfiguration("Long");
+        part.AddHyperlink("a");
+        part.Save();
+    }
+    QVERIFY(QFile::copy(pin, server.Path("pin.tfmprt")));
+    const QString url = server.Url("pin.tfmprt");
+    for (const QStringList& words :
+         {QStringList{"properties", "--yes", "--set=Finish=zinc", url},
+          QStringList{"configurations", "--yes", url, "rename", "Long", "Longer"},
+          QStringList{"hyperlinks", "--yes", url, "change", "a", "b"}}) {
+        const Run run(words);
+        QVERIFY2(run.code == 0, qPrintable(run.err));
+        QVERIFY(run.out.contains(url + "  updated"));
+    }
+    const QString stored = server.Path("pin.tfmprt");
+    QVERIFY(Run({"properties", stored}).out.contains("Finish"));
+    QCOMPARE(Run({"configurations", "-0", stored}).out, QString("Longer") + QChar('\0'));
+    QCOMPARE(Run({"hyperlinks", "-0", stored}).out, QString("b") + QChar('\0'));
+}
+
+void TestApp::copiesGoToAndComeFromWebFolders() {
+    const ApacheServer server;
+    TestLibrary library;
+    SmallAssembly(library);
+    const QString left = library.Path("left.tfmasm");
+    const QStringList up{"copy", "--to", server.Url("up"), left};
+    QCOMPARE(Run(up + QStringList{"--dry-run"}).code, 0);
+    QVERIFY(!QFile::exists(server.Path("up")));
+    QCOMPARE(Run({"copy", "--yes", "--alone", "--to", server.Url("up"), library.Path("pin.tfmprt")})
+                 .code,
+             0);
+    QVERIFY(QFile::exists(server.Path("up/pin.tfmprt")));
+    const Run taken(
+        {"copy", "--yes", "--alone", "--to", server.Url("up"), library.Path("pin.tfmprt")});
+    QCOMPARE(taken.code, 1);
+    QVERIFY(taken.err.contains("already there"));
+    QCOMPARE(Run({"copy", "--yes", "--to", library.Path("down"), server.Url("up/pin.tfmprt")}).code,
+             0);
+    QVERIFY(QFile::exists(library.Path("down/pin.tfmprt")));
 }
 
 void TestApp::aServerThatIsNotThereIsToldInWords() {
@@ -216,196 +233,19 @@ void TestApp::treeNeedsNoDisplay() {
     QCOMPARE(run.code, 0);
 }
 
-void TestApp::aRelativePathIsTakenFromTheWorkingFolder() {
-    TestLibrary library;
-    SmallAssembly(library);
-    const Run run({QStringLiteral("tree"), QStringLiteral("pin.tfmprt")}, library.Folder());
-    QCOMPARE(run.code, 0);
-    QVERIFY(run.out.contains(library.Path(QStringLiteral("pin.tfmprt"))));
-}
-
-void TestApp::aMissingDocumentEndsWithThree() {
-    TestLibrary library;
-    const Run run({QStringLiteral("tree"), library.Path(QStringLiteral("none.tfmasm"))});
-    QCOMPARE(run.code, 3);
-    QVERIFY(run.err.contains(QLatin1String("none.tfmasm")));
-    QVERIFY(run.out.isEmpty());
-}
-
-void TestApp::aDocumentThatIsNoneEndsWithThree() {
-    TestLibrary library;
-    const Run run({QStringLiteral("tree"), library.MakeBroken(QStringLiteral("broken.tfmasm"))});
-    QCOMPARE(run.code, 3);
-    QVERIFY(run.err.contains(QLatin1String("broken.tfmasm")));
-}
-
-void TestApp::aChildThatCannotBeReadEndsWithOne() {
-    TestLibrary library;
-    const QString broken = library.MakeBroken(QStringLiteral("broken.tfmasm"));
-    const Run run({QStringLiteral("tree"), library.Make(QStringLiteral("top.tfmasm"), {{broken}})});
-    QCOMPARE(run.code, 1);
-    QVERIFY(run.out.contains(QLatin1String("broken.tfmasm")));
-    QVERIFY(run.err.contains(QLatin1String("broken.tfmasm")));
-}
-
-void TestApp::aDryRunPrintsThePlanAndTouchesNothing() {
-    TestLibrary library;
-    SmallAssembly(library);
-    const QString pin = library.Path("pin.tfmprt");
-    const QString bolt = library.Path("nail.tfmprt");
-    const Run run({"rename", "--dry-run", "--root", library.Path("top.tfmasm"), pin, "nail"});
-    QCOMPARE(run.code, 0);
-    const QStringList lines = run.out.split(u'\n', Qt::SkipEmptyParts);
-    QCOMPARE(lines.size(), 4);  // headers, the move, the parent, the parent's row
-    QCOMPARE(lines[1].simplified(), pin + " move " + bolt);
-    QCOMPARE(lines[2].simplified(), library.Path("left.tfmasm") + " component 1 " + bolt);
-    QCOMPARE(lines[3], lines[2]);
-    QVERIFY(QFile::exists(pin) && !QFile::exists(bolt));
-    const Run json({"rename", "--dry-run", "--json", pin, "nail"});
-    const QJsonObject plan = QJsonDocument::fromJson(json.out.toUtf8()).object();
-    QCOMPARE(plan["version"].toInt(), 1);
-    QCOMPARE(plan["command"].toString(), QString("rename"));
-    QCOMPARE(plan["changes"][0]["to"].toString(), bolt);
-    const Run null({"rename", "--dry-run", "-0", pin, "nail"});
-    QCOMPARE(null.out.split(QChar('\0')),
-             QStringList({pin, library.Path("left.tfmasm"), QString()}));
-}
-
-void TestApp::renameMovesTheFileAndUpdatesItsHolders() {
-    TestLibrary library;
-    SmallAssembly(library);
-    const Run run({"rename", "--yes", "--json", "--", "pin.tfmprt", "nail"}, library.Folder());
-    QCOMPARE(run.code, 0);
-    QVERIFY(!QFile::exists(library.Path("pin.tfmprt")));
-    const QJsonObject result = QJsonDocument::fromJson(run.out.toUtf8()).object();
-    QCOMPARE(result["updated"].toInt(), 1);
-    QCOMPARE(result["rows"][0]["status"].toString(), QString("updated"));
-    const Run tree({"tree", library.Path("top.tfmasm")});
-    QVERIFY(tree.out.contains("nail  (6 x)  " + library.Path("nail.tfmprt")));
-}
-
-void TestApp::withNobodyToAskItNeedsYes() {
-    TestLibrary library;
-    SmallAssembly(library);
-    const Run run({"rename", library.Path("pin.tfmprt"), "nail"});
-    QCOMPARE(run.code, 2);
-    QVERIFY(run.err.contains("--yes"));
-    QVERIFY(QFile::exists(library.Path("pin.tfmprt")));
-}
-
-void TestApp::aHolderThatIsLeftOutEndsWithOne() {
-    TestLibrary library;
-    SmallAssembly(library);
-    const QString left = library.Path("left.tfmasm");
-    QVERIFY(QFile::setPermissions(left, QFile::ReadOwner | QFile::ReadUser));
-    const Run run({"rename", "--yes", library.Path("pin.tfmprt"), "nail"});
-    QCOMPARE(run.code, 1);
-    QVERIFY(run.out.contains("left out"));
-    QVERIFY(QFile::exists(library.Path("nail.tfmprt")));
-}
-
-void TestApp::replaceMovesNothing() {
-    TestLibrary library;
-    SmallAssembly(library);
-    const QString nail = library.Make("nail.tfmprt");
-    const Run run({"replace", "--yes", library.Path("pin.tfmprt"), nail});
-    QCOMPARE(run.code, 0);
-    QVERIFY(QFile::exists(library.Path("pin.tfmprt")));
-    QVERIFY(Run({"tree", library.Path("top.tfmasm")}).out.contains("nail  (6 x)"));
-    const Run refused({"replace", "--yes", nail, library.Path("top.tfmasm")});
-    QCOMPARE(refused.code, 1);  // of another type
-}
-
-void TestApp::referencesListsBothTables() {
-    TestLibrary library;
-    const QString pin = library.Make("pin.tfmprt");
-    const QString lost = library.Path("lost.tfmprt");
-    const QString top = library.Make("top.tfmasm", {{pin, 2}}, {{lost, "derived"}});
-    const Run run({"references", top});
-    QCOMPARE(run.code, 0);
-    const QStringList lines = run.out.split(u'\n', Qt::SkipEmptyParts);
-    QCOMPARE(lines.size(), 3);
-    QCOMPARE(lines[1].simplified(), pin + " component 1");
-    QCOMPARE(lines[2].simplified(), lost + " external 1 missing");
-    QCOMPARE(Run({"references", lost}).code, 3);
-}
-
-void TestApp::whereUsedListsTheHoldersAndWritesThem() {
-    TestLibrary library;
-    SmallAssembly(library);
-    const QString file = library.Path("users.csv");
-    const Run run({"where-used", "--json", "-o", file, library.Path("pin.tfmprt")});
-    QCOMPARE(run.code, 0);
-    const QJsonObject result = QJsonDocument::fromJson(run.out.toUtf8()).object();
-    QCOMPARE(result["rows"].toArray().size(), 1);
-    QCOMPARE(result["rows"][0]["document"].toString(), library.Path("left.tfmasm"));
-    QFile csv(file);
-    QVERIFY(csv.open(QIODevice::ReadOnly));
-    QVERIFY(csv.readAll().contains("left.tfmasm"));
-    const QString sheet = library.Path("users.xlsx");
-    QCOMPARE(Run({"where-used", "-o", sheet, library.Path("pin.tfmprt")}).code, 0);
-    QFile xlsx(sheet);
-    QVERIFY(xlsx.open(QIODevice::ReadOnly));
-    QVERIFY(xlsx.readAll().startsWith("PK"));
-}
-
-void TestApp::lockAndUnlockReserveADocument() {
-    TestLibrary library;
-    SmallAssembly(library);
-    const QString pin = library.Path("pin.tfmprt");
-    QCOMPARE(Run({"lock", "--dry-run", pin}).code, 0);
-    QVERIFY(!library.IsLocked(pin));
-    QCOMPARE(Run({"lock", "--yes", pin}).code, 0);
-    QVERIFY(library.IsLocked(pin));
-    QCOMPARE(Run({"unlock", "--yes", pin}).code, 0);
-    QVERIFY(!library.IsLocked(pin));
-    // Somebody else's stays locked.
-    QCOMPARE(Run({"unlock", "--yes", library.Path("bo\"lt.tfmprt")}).code, 1);
-}
-
-void TestApp::listKeepsTheFolderLists() {
-    TestLibrary library;
-    SmallAssembly(library);
-    QCOMPARE(Run({"list", "Parts", library.Folder()}).code, 0);
-    const Run shown({"list", "-0", "Parts"});
-    QCOMPARE(shown.out, library.Folder() + QChar('\0'));
-    const Run used({"where-used", "-0", "--in", " Parts", "pin.tfmprt"});
-    QCOMPARE(used.out, library.Path("left.tfmasm") + QChar('\0'));
-    QCOMPARE(Run({"list", "two words", library.Folder()}).code, 1);
-    QCOMPARE(Run({"list", "--delete", "Parts"}).code, 0);
-    QCOMPARE(Run({"list", "Parts"}).code, 1);
-}
-
 void TestApp::everyCommandHasItsHelp() {
     const QString list = Run({"--help"}).out;
-    for (const char* name : {"tree", "references", "where-used", "rename", "replace",
-                             "configurations", "hyperlinks", "lock", "unlock", "list"}) {
+    for (const char* name :
+         {"tree", "references", "where-used", "search", "rename", "replace", "copy", "properties",
+          "configurations", "hyperlinks", "lock", "unlock", "list"}) {
         QVERIFY2(list.contains(QString("\n  %1 ").arg(name)), name);
         const Run help({name, "--help"});
         QCOMPARE(help.code, 0);
-        QVERIFY(help.out.startsWith(QString("Usage: docbench %1 [options] ").arg(name)));
+        QVERIFY(help.out.startsWith(QString("Usage: docbench %1 [options]").arg(name)));
+        QVERIFY2(help.out.contains(QString("\n  docbench %1").arg(name)), name);  // an example
+        for (const QString& line : help.out.split(u'\n'))
+            QVERIFY2(line.size() <= 100, qPrintable(line));
     }
-}
-
-void TestApp::wrongUsageEndsWithTwo_data() {
-    QTest::addColumn<QStringList>("arguments");
-    const auto row = [](const char* name, const QStringList& arguments) {
-        QTest::newRow(name) << arguments;
-    };
-    row("no file", {QStringLiteral("tree")});
-    row("two files", {QStringLiteral("tree"), QStringLiteral("a"), QStringLiteral("b")});
-    row("unknown option", {QStringLiteral("--nonsense")});
-    row("json without tree", {QStringLiteral("a.tfmprt"), QStringLiteral("--json")});
-    row("window option with tree",
-        {QStringLiteral("tree"), QStringLiteral("a.tfmprt"), QStringLiteral("--quit-when-shown")});
-    row("unknown theme", {QStringLiteral("--theme"), QStringLiteral("plaid")});
-}
-
-void TestApp::wrongUsageEndsWithTwo() {
-    QFETCH(QStringList, arguments);
-    const Run run(arguments);
-    QCOMPARE(run.code, 2);
-    QVERIFY(run.err.contains(QLatin1String("--help")));
 }
 
 void TestApp::helpAndVersionArePrinted() {
