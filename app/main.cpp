@@ -31,6 +31,8 @@ int WriteScreenshot(MainWindow& window, const QString& file) {
 int RunWindow(int argc, char* argv[], const CommandLine& line) {
     QApplication application(argc, argv);
     QApplication::setApplicationVersion(QLatin1String(kVersion));
+    // The name of the desktop entry: docks and switchers take the icon from there.
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.tessaforma.Docbench"));
     ApplyTheme(line.theme);
     const DesktopSeams seams;
     const bool endsAlone = line.quitWhenShown || !line.screenshot.isEmpty();
