@@ -1,8 +1,7 @@
 # What `cmake --install` puts where. Component "runtime": what a user needs; "development": what hosts
-# of the controls are built with.
+# of the controls are built with. The shared libraries are told in designer/.
 
-install(TARGETS docbench docmodel_tool docbench-samples docbench-thumbnailer docmodel docbench_core
-    docbench_controls
+install(TARGETS docbench docmodel_tool docbench-samples docbench-thumbnailer docmodel
     RUNTIME DESTINATION ${DOCBENCH_FOLDER} COMPONENT runtime
     LIBRARY DESTINATION ${DOCBENCH_FOLDER} COMPONENT runtime)
 install(DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/lang DESTINATION ${DOCBENCH_FOLDER}

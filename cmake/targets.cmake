@@ -39,6 +39,9 @@ target_link_libraries(docbench_controls_objects
 target_precompile_headers(docbench_controls_objects PRIVATE <QtWidgets>)
 
 add_library(docbench_controls SHARED)
+set_target_properties(docbench_core PROPERTIES EXPORT_NAME Core)
+set_target_properties(docbench_controls PROPERTIES EXPORT_NAME Controls)
+set_target_properties(docaccess PROPERTIES EXPORT_NAME DocAccess)
 target_link_libraries(docbench_controls
     PUBLIC docbench_core Qt6::Widgets
     PRIVATE $<BUILD_INTERFACE:docbench_controls_objects>)

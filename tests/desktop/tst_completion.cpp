@@ -1,6 +1,6 @@
 #include <QDir>
 
-#include "tests/desktop/installation.h"
+#include "tests/support/installation.h"
 #include "tests/support/testenvironment.h"
 #include "tests/support/testlibrary.h"
 

@@ -2,7 +2,7 @@
 #include <QMimeDatabase>
 #include <QSettings>
 
-#include "tests/desktop/installation.h"
+#include "tests/support/installation.h"
 #include "tests/support/testenvironment.h"
 #include "tests/support/testlibrary.h"
 

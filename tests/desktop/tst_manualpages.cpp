@@ -1,7 +1,7 @@
 #include <QDir>
 #include <QRegularExpression>
 
-#include "tests/desktop/installation.h"
+#include "tests/support/installation.h"
 #include "tests/support/testenvironment.h"
 
 using namespace docbench;

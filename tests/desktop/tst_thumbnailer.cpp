@@ -4,7 +4,7 @@
 #include <QImage>
 #include <QUrl>
 
-#include "tests/desktop/installation.h"
+#include "tests/support/installation.h"
 #include "tests/support/testenvironment.h"
 #include "tests/support/testlibrary.h"
 
