@@ -56,7 +56,7 @@ _@function@() {
     # "--in=x" comes as three words.
     if [[ $word == = ]]; then
         word=''
-    elif [[ $before == = && COMP_CWORD -gt 1 ]]; then
+    elif [[ $before == = ]] && ((COMP_CWORD > 1)); then
         before=${COMP_WORDS[COMP_CWORD - 2]}
     fi
     for ((i = 1; i < COMP_CWORD; i++)); do
