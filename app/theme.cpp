@@ -1,13 +1,40 @@
 #include "app/theme.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 
 namespace docbench {
 
 namespace {
+
+// The style draws the edges of boxes darker than the window, where a dark one swallows them.
+class EdgedStyle : public QProxyStyle {
+public:
+    EdgedStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        const bool isRound = element == PE_IndicatorRadioButton;
+        if (!isRound && element != PE_IndicatorCheckBox && element != PE_IndicatorItemViewItemCheck)
+            return;
+        constexpr int kEdge = 120;  // how much of the text's colour, of 255
+        QColor edge = option->palette.color(QPalette::WindowText);
+        edge.setAlpha(kEdge);
+        const QRectF rect = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing, isRound);
+        painter->setPen(edge);
+        painter->setBrush(Qt::NoBrush);
+        isRound ? painter->drawEllipse(rect) : painter->drawRect(rect);
+        painter->restore();
+    }
+};
 
 QPalette DarkPalette() {
     const QColor window(0x2b, 0x2d, 0x30);
@@ -38,7 +65,7 @@ bool ApplyTheme(const QString& name) {
     const bool dark = name == QLatin1String("dark");
     if (!dark && name != QLatin1String("light"))
         return false;
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(dark ? new EdgedStyle : QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(dark ? DarkPalette() : QApplication::style()->standardPalette());
     return true;
 }

@@ -99,6 +99,7 @@ CopyResult CopyProject(const QString& top, const QString& target) {
     return RunCopy(plan, {.status = [](const QString&) {},
                           .step = [](int, int, const QString&) {},
                           .rowDone = [](CopyProgress::List, int) {},
+                          .rowInQuestion = [](CopyProgress::List, int) {},
                           .yield = [] { return true; }});
 }
 

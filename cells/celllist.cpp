@@ -42,9 +42,9 @@ void CellList::Append(std::vector<CellRow> rows) {
     endInsertRows();
 }
 
-void CellList::Remove(int row) {
-    beginRemoveRows({}, row, row);
-    rows_.erase(rows_.begin() + row);
+void CellList::Remove(int first, int count) {
+    beginRemoveRows({}, first, first + count - 1);
+    rows_.erase(rows_.begin() + first, rows_.begin() + first + count);
     endRemoveRows();
 }
 

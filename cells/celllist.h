@@ -53,7 +53,7 @@ public:
 
     void Append(CellRow row);
     void Append(std::vector<CellRow> rows);  // announced once
-    void Remove(int row);
+    void Remove(int first, int count = 1);  // announced once
     void Clear();
     void Change(int row, const std::function<void(CellRow&)>& change);
     // Runs `change` on every row, announced once: for what concerns many rows.

@@ -351,6 +351,7 @@ void copyRef::SearchParents() {
     ui_->Findnow->setText(Tr(Text::Stop));
     ui_->Findnow->setEnabled(true);
     Parents().Clear();
+    RowBatch rows = ParentRows(Parents());
     const ParentSearch parents{
         .search = {.document = ui_->oldname->text(),
                    .kinds = {.references = scope_.references,
@@ -361,16 +362,18 @@ void copyRef::SearchParents() {
                    .yield = [] { QCoreApplication::processEvents(); },
                    .cancelled = [alive, gone] { return gone() || alive->mStopSearch; },
                    .progress =
-                       [this](const SearchCounts& counts) {
-                           ShowSearchProgress(*ui_->lblProgress, counts, Parents().Count());
+                       [this, &rows](const SearchCounts& counts) {
+                           rows.Offer();
+                           ShowSearchProgress(*ui_->lblProgress, counts, rows.Count());
                        }},
         .targetFolder = FolderText(),
         .affixes = {mPrefix, mSuffix}};
-    docbench::SearchParents(parents, mLookIn, Parents());
+    docbench::SearchParents(parents, mLookIn, rows);
     if (alive)
         searching_ = false;
     if (gone())
         return;
+    rows.Flush();
     SetStatusText(Format(Text::HoldersFound, Parents().Count()));
     FitLists();
     EnablePaneControls(true);
@@ -458,17 +461,21 @@ CopyProgress copyRef::Progress() {
             },
         .rowDone =
             [this](CopyProgress::List which, int row) {
-                if (sinceDrawn_.elapsed() < kDrawEvery)
-                    return;  // with the next picture of the progress
-                CellListView* list = which == CopyProgress::List::Copies ? ui_->lv_0 : ui_->lv_1;
-                list->scrollTo(list->List().index(row, 0));
-                list->viewport()->repaint();
+                if (std::exchange(drawn_, false))
+                    BringIntoView(which, row);
             },
+        .rowInQuestion = [this](CopyProgress::List which, int row) { BringIntoView(which, row); },
         .yield =
             [alive = QPointer<copyRef>(this)] {
                 QCoreApplication::processEvents();
                 return !alive.isNull();
             }};
+}
+
+void copyRef::BringIntoView(CopyProgress::List which, int row) {
+    CellListView* list = which == CopyProgress::List::Copies ? ui_->lv_0 : ui_->lv_1;
+    list->scrollTo(list->List().index(row, 0));
+    list->viewport()->repaint();
 }
 
 void copyRef::EndRun(const CopyResult& result) {

@@ -98,6 +98,7 @@ private:
     bool CheckBeforeCopy();
     void Apply();
     CopyProgress Progress();
+    void BringIntoView(CopyProgress::List which, int row);
     void EndRun(const CopyResult& result);
     void ShowOutcome(const Cell& target);
 

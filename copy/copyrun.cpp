@@ -123,7 +123,10 @@ private:
                 list.Change(copy.row, [&](CellRow& row) { row.cells[0].toolTip = reason; });
             });
         }
-        progress_.rowDone(which, copy.row);
+        if (goesOn)
+            progress_.rowDone(which, copy.row);
+        else
+            progress_.rowInQuestion(which, copy.row);
         return goesOn;
     }
 

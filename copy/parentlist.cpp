@@ -41,11 +41,15 @@ void ShowTarget(const CellList& list, CellRow& row) {
         StateOf(row) == ParentState::Copy ? ShownPath(list, kParentTarget, target.tag) : QString();
 }
 
-void SetState(const CellList& list, CellRow& row, ParentState state) {
+void Become(CellRow& row, ParentState state) {
     row.cells[kParentState].text = state == ParentState::Copy     ? Tr(Text::CopyWord)
                                    : state == ParentState::Update ? Tr(Text::UpdateWord)
                                                                   : QString();
     row.ticked = state != ParentState::None;
+}
+
+void SetState(const CellList& list, CellRow& row, ParentState state) {
+    Become(row, state);
     ShowTarget(list, row);
 }
 
@@ -125,7 +129,7 @@ void ToggleParentColumn(CellList& list, int column) {
     }
 }
 
-void AddParent(CellList& list, const NewParent& added) {
+void AddParent(RowBatch& rows, const NewParent& added) {
     CellRow row{
         .cells = {{.text = {}, .toolTip = Tr(Text::ParentRowTip)},
                   {.text = {}, .tag = added.parent, .toolTip = added.parent},
@@ -137,11 +141,18 @@ void AddParent(CellList& list, const NewParent& added) {
         .tag = added.parent};
     if (!added.target.isEmpty())
         row.cells[kParentTarget].toolTip = Tr(Text::TargetTip);
-    SetState(list, row, IsDrawing(row) ? ParentState::Copy : ParentState::Update);
-    ShowHolder(list, row, false);
     if (IsReadOnlyFile(added.local))
-        MarkReadOnly(list, row);
-    list.Append(std::move(row));
+        row.cells[kParentHolder].foreColor = kColorRed;
+    else
+        Become(row, IsDrawing(row) ? ParentState::Copy : ParentState::Update);
+    rows.Add(std::move(row));
+}
+
+RowBatch ParentRows(CellList& list) {
+    return RowBatch(list, [&list](CellRow& row) {
+        ShowHolder(list, row, row.cells[kParentHolder].foreColor == kColorRed);
+        ShowTarget(list, row);
+    });
 }
 
 void GoToNextState(CellList& list, int index) {

@@ -7,6 +7,7 @@
 
 #include "cells/celllist.h"
 #include "panes/pathcolumn.h"
+#include "panes/rowbatch.h"
 #include "services/docaccess.h"
 #include "services/listtable.h"
 
@@ -55,7 +56,9 @@ struct NewParent {
     QString target;  // for a drawing; empty for others
     QString local;
 };
-void AddParent(CellList& list, const NewParent& added);
+void AddParent(RowBatch& rows, const NewParent& added);
+// Rows on their way into a parent list.
+RowBatch ParentRows(CellList& list);
 
 // What the user's click on a row's box does: the row goes on to its next state. A box tells why a
 // document can't be updated.

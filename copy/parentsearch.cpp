@@ -27,12 +27,8 @@ QString TargetOfDrawing(const ParentSearch& parents, const QString& parent) {
 
 }  // namespace
 
-void SearchParents(const ParentSearch& parents, const QString& folders, CellList& list) {
+void SearchParents(const ParentSearch& parents, const QString& folders, RowBatch& rows) {
     QSet<QString> listed;
-    for (const CellRow& row : list.Rows()) {
-        const ParentRow known = ReadParentRow(row);
-        listed.insert(KeyOf(known.parent, known.number, known.external));
-    }
     HolderSearch search = parents.search;
     LocalCopyOf(search.document);  // so that its users are compared with a document that is there
     search.onFailure = HolderSearch::OnFailure::GoesOn;
@@ -42,7 +38,7 @@ void SearchParents(const ParentSearch& parents, const QString& folders, CellList
         if (itself || listed.contains(key))
             return;
         listed.insert(key);
-        AddParent(list, {.found = found,
+        AddParent(rows, {.found = found,
                          .parent = parent,
                          .relation = relation,
                          .target = TargetOfDrawing(parents, parent),

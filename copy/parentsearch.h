@@ -8,7 +8,7 @@
 
 namespace docbench {
 
-class CellList;
+class RowBatch;
 
 struct ParentSearch {
     // Where and how; `take` and `onFailure` are set here. A folder that can't be searched gives no
@@ -18,7 +18,8 @@ struct ParentSearch {
     Affixes affixes;
 };
 
-// Adds a row for each reference, except the document's own and those that are listed already.
-void SearchParents(const ParentSearch& parents, const QString& folders, CellList& list);
+// Adds a row for each reference, once, except the document's own. `rows` (ParentRows) is handed on
+// by the caller: by `progress`, and at the end.
+void SearchParents(const ParentSearch& parents, const QString& folders, RowBatch& rows);
 
 }  // namespace docbench

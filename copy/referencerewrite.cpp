@@ -264,7 +264,7 @@ Rewriter::Next Rewriter::RewriteRow(int index) {
             writing = &OpenCopy(row.source, row.target, true);
         })) {
         tell(errors.Description());
-        progress_.rowDone(CopyProgress::List::Copies, index);
+        progress_.rowInQuestion(CopyProgress::List::Copies, index);
         return AskToGoOn(Format(Text::NotOpened, row.source, errors.Description()), QString())
                    ? Next::Row
                    : Next::End;
@@ -287,7 +287,7 @@ Rewriter::Next Rewriter::RewriteRow(int index) {
     }
     paint(kColorRed);
     tell(errors.Description());
-    progress_.rowDone(CopyProgress::List::Copies, index);
+    progress_.rowInQuestion(CopyProgress::List::Copies, index);
     return AskToGoOn(Format(Text::NotSaved, row.target, errors.Description()), QString())
                ? Next::Row
                : Next::End;
@@ -344,7 +344,10 @@ Rewriter::Next Rewriter::RewriteParent(int index) {
             if (!toolTip.isEmpty())
                 changed.cells[kParentHolder].toolTip = toolTip;
         });
-        progress_.rowDone(CopyProgress::List::Parents, index);
+        if (color == kColorRed)
+            progress_.rowInQuestion(CopyProgress::List::Parents, index);
+        else
+            progress_.rowDone(CopyProgress::List::Parents, index);
     };
     ErrorState errors;
     DocumentFile* writing = nullptr;

@@ -24,7 +24,10 @@ struct CopyProgress {
     std::function<void(const QString& text)> status;
     // How far it is, and what it works on.
     std::function<void(int done, int all, const QString& path)> step;
-    std::function<void(List list, int row)> rowDone;  // to be brought into view
+    // Is to be brought into view, as soon as there is time for a picture.
+    std::function<void(List list, int row)> rowDone;
+    // The user is about to be asked about this row, or the copy ended with it.
+    std::function<void(List list, int row)> rowInQuestion;
     // Lets events in. False: whoever shows the lists is gone, and so are they.
     std::function<bool()> yield;
 };

@@ -65,7 +65,7 @@ EntryKind KindOf(int folder, const dirent& entry) {
 // Sorts the entries of one folder into documents and subfolders.
 class Lister {
 public:
-    Lister(int folder, const QString& pattern, const std::set<FolderIdentity>& known)
+    Lister(int folder, const QString& pattern, const KnownFolders& known)
         : folder_(folder), pattern_(pattern), takesEvery_(IsEveryName(pattern)), known_(known) {}
 
     void Take(const dirent& entry) {
@@ -83,13 +83,15 @@ public:
         if (!QUtf8StringView(name.data(), qsizetype(name.size())).isValidUtf8())
             ++listing_.unnamable;
         else if (kind.isFolder)
-            listing_.subfolders.emplace_back(name);
+            (kind.isLink ? links_ : listing_.subfolders).emplace_back(name);
         else
             listing_.documents.push_back({std::string(name), kind.isLink});
     }
 
     FolderListing Sorted() {
         std::sort(listing_.subfolders.begin(), listing_.subfolders.end());
+        std::sort(links_.begin(), links_.end());
+        listing_.subfolders.insert(listing_.subfolders.end(), links_.begin(), links_.end());
         std::sort(listing_.documents.begin(), listing_.documents.end(),
                   [](const ListedDocument& a, const ListedDocument& b) { return a.name < b.name; });
         return std::move(listing_);
@@ -104,8 +106,9 @@ private:
     const int folder_;
     const QString& pattern_;
     const bool takesEvery_;
-    const std::set<FolderIdentity>& known_;
+    const KnownFolders& known_;
     FolderListing listing_;
+    std::vector<std::string> links_;  // to folders
 };
 
 struct CloseFolder {
@@ -128,7 +131,7 @@ FileDescriptor OpenFolder(const QString& path) {
 }
 
 FolderListing ListFolder(const FileDescriptor& folder, const QString& path, const QString& pattern,
-                         const std::set<FolderIdentity>& known) {
+                         const KnownFolders& known) {
     FileDescriptor own(fcntl(folder.Get(), F_DUPFD_CLOEXEC, 0));
     const std::unique_ptr<DIR, CloseFolder> entries(own.IsOpen() ? fdopendir(own.Get()) : nullptr);
     if (!entries)

@@ -4,7 +4,7 @@
 #include <sys/types.h>
 
 #include <QString>
-#include <set>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,6 +15,8 @@ namespace docmodel {
 
 // What makes two paths the same folder: device and inode.
 using FolderIdentity = std::pair<dev_t, ino_t>;
+// The folders that were searched, with the paths under which they were first.
+using KnownFolders = std::map<FolderIdentity, QString>;
 
 struct ListedDocument {
     std::string name;
@@ -23,6 +25,8 @@ struct ListedDocument {
 
 struct FolderListing {
     std::vector<ListedDocument> documents;  // both in the order of the names' bytes
+    // Links to folders come last: a walk meets a folder under its own name first, and leaves the
+    // link out then.
     std::vector<std::string> subfolders;
     // Documents that fit the pattern, and folders, whose names are no text.
     int unnamable = 0;
@@ -38,6 +42,6 @@ FileDescriptor OpenFolder(const QString& path);
 // counts as a document unless it is a folder. A link to a folder that is among `known` is left out,
 // so that a walk through linked folders ends. Raises DocumentError.
 FolderListing ListFolder(const FileDescriptor& folder, const QString& path, const QString& pattern,
-                         const std::set<FolderIdentity>& known);
+                         const KnownFolders& known);
 
 }  // namespace docmodel

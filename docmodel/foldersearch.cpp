@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <cerrno>
 
@@ -46,11 +47,11 @@ struct Candidate {
 
 class FolderSearch {
 public:
-    FolderSearch(const ReferenceQuery& query, std::set<FolderIdentity>& known);
+    FolderSearch(const ReferenceQuery& query, KnownFolders& known);
     FolderFindings Run(ReferenceIndex& index);
 
 private:
-    void Remember();
+    bool IsKnownByAnotherName();
     void Search(const FolderListing& listing, FolderMemory& memory);
     void Read(Candidate& candidate) const;
     QString PathOf(const std::string& name) const {
@@ -58,7 +59,7 @@ private:
     }
 
     const ReferenceQuery& query_;
-    std::set<FolderIdentity>& known_;
+    KnownFolders& known_;
     const ReferenceTarget target_;
     const QString prefix_;        // of the documents' paths
     const QString holderFolder_;  // the same, absolute and clean
@@ -66,7 +67,7 @@ private:
     FolderFindings findings_;
 };
 
-FolderSearch::FolderSearch(const ReferenceQuery& query, std::set<FolderIdentity>& known)
+FolderSearch::FolderSearch(const ReferenceQuery& query, KnownFolders& known)
     : query_(query),
       known_(known),
       target_(query),
@@ -74,16 +75,19 @@ FolderSearch::FolderSearch(const ReferenceQuery& query, std::set<FolderIdentity>
       holderFolder_(HolderFolder(prefix_ + QLatin1String("document"))),
       folder_(OpenFolder(prefix_.isEmpty() ? QStringLiteral(".") : prefix_)) {}
 
-// So that a link from below leads no walk in here again.
-void FolderSearch::Remember() {
+// Tells so of links alone, and takes in any folder that is not known.
+bool FolderSearch::IsKnownByAnotherName() {
     struct stat status;
     if (fstat(folder_.Get(), &status) != 0)
         throw FolderError(prefix_, QStringLiteral("searched"), errno);
-    known_.insert({status.st_dev, status.st_ino});
+    const auto [known, isNew] = known_.try_emplace({status.st_dev, status.st_ino}, holderFolder_);
+    return !isNew && known->second != holderFolder_ &&
+           QFileInfo(holderFolder_.chopped(1)).isSymLink();
 }
 
 FolderFindings FolderSearch::Run(ReferenceIndex& index) {
-    Remember();
+    if (IsKnownByAnotherName())
+        return {};
     const QString pattern = docbench::FileNameOf(query_.pattern);
     const FolderListing listing = ListFolder(folder_, prefix_, pattern, known_);
     findings_.counts = {int(listing.documents.size()) + listing.unnamable, listing.unnamable};
@@ -132,7 +136,7 @@ void FolderSearch::Read(Candidate& candidate) const {
 
 }  // namespace
 
-FolderFindings SearchFolder(const ReferenceQuery& query, std::set<FolderIdentity>& known,
+FolderFindings SearchFolder(const ReferenceQuery& query, KnownFolders& known,
                             ReferenceIndex& index) {
     return FolderSearch(query, known).Run(index);
 }

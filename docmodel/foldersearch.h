@@ -3,7 +3,6 @@
 
 #include <QList>
 #include <QStringList>
-#include <set>
 
 #include "docmodel/folderlisting.h"
 #include "docmodel/referenceindex.h"
@@ -17,10 +16,11 @@ struct FolderFindings {
     docbench::SearchCounts counts;
 };
 
-// Searches the folder of the query's pattern and adds it to `known`; links to folders in there are
-// no subfolders. The index spares time, and changes no answer. Raises DocumentError when the folder
-// can't be listed.
-FolderFindings SearchFolder(const docbench::ReferenceQuery& query, std::set<FolderIdentity>& known,
+// Searches the folder of the query's pattern and adds it to `known`. Nothing is found in a link to
+// a folder that is known by another name: a walk through linked folders ends, and meets no document
+// twice. The index spares time, and changes no answer. Raises DocumentError when the folder can't
+// be listed.
+FolderFindings SearchFolder(const docbench::ReferenceQuery& query, KnownFolders& known,
                             ReferenceIndex& index);
 
 }  // namespace docmodel

@@ -30,7 +30,7 @@ public:
 
 private:
     FolderFindings findings_;                     // of the last search
-    std::set<FolderIdentity> known_;              // the folders that were searched
+    KnownFolders known_;                          // the folders that were searched
     std::optional<ReferenceIndex> index_;         // opened by the first search
     docbench::SearchCounts counts_;               // of all searches
     std::unique_ptr<docbench::SettingsKey> key_;  // null: no key is open

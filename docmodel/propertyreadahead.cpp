@@ -15,6 +15,8 @@ namespace docmodel {
 
 namespace {
 
+constexpr size_t kFarthest = 256;  // documents
+
 bool IsInState(int folder, const QByteArray& name, const FileState& state) {
     struct stat status;
     return fstatat(folder, name.constData(), &status, AT_SYMLINK_NOFOLLOW) == 0 &&
@@ -32,8 +34,7 @@ class PropertyReadAhead::Helper : public QRunnable {
 public:
     explicit Helper(PropertyReadAhead& ahead) : ahead_(ahead) { setAutoDelete(false); }
     void run() override {
-        while (ahead_.ReadNext()) {
-        }
+        ahead_.ReadAll();
         ahead_.ended_.release();
     }
 
@@ -48,12 +49,15 @@ PropertyReadAhead::PropertyReadAhead(int folder, QString prefix, std::vector<Doc
     for (Document& document : documents) {
         slots_.push_back(std::make_unique<Slot>());
         slots_.back()->document = std::move(document);
+        slots_.back()->position = slots_.size() - 1;
         byName_.insert(slots_.back()->document.name, slots_.back().get());
     }
 }
 
 PropertyReadAhead::~PropertyReadAhead() {
     stops_ = true;
+    ++asked_;
+    asked_.notify_all();
     QThreadPool& pool = *QThreadPool::globalInstance();
     const auto started = std::count_if(helpers_.begin(), helpers_.end(), [&](const auto& helper) {
         return !pool.tryTake(helper.get());
@@ -70,9 +74,22 @@ void PropertyReadAhead::Start() {
     }
 }
 
+void PropertyReadAhead::ReadAll() {
+    for (;;) {
+        const size_t asked = asked_;
+        if (stops_ || next_ >= slots_.size())
+            return;
+        if (!ReadNext())
+            asked_.wait(asked);
+    }
+}
+
 bool PropertyReadAhead::ReadNext() {
-    for (size_t i = next_++; i < slots_.size() && !stops_; i = next_++) {
-        Slot& slot = *slots_[i];
+    size_t i = next_;
+    while (i < std::min(slots_.size(), asked_ + kFarthest) && !stops_) {
+        if (!next_.compare_exchange_weak(i, i + 1))
+            continue;
+        Slot& slot = *slots_[i++];
         Stage stage = Waiting;
         if (!slot.stage.compare_exchange_strong(stage, Reading))
             continue;  // whoever asks was faster
@@ -103,6 +120,10 @@ std::optional<PropertyReadAhead::Outcome> PropertyReadAhead::Take(const QByteArr
     Slot* const slot = byName_.value(name);
     if (!slot)
         return std::nullopt;
+    if (slot->position >= asked_) {
+        asked_ = slot->position + 1;
+        asked_.notify_all();
+    }
     Stage stage = Waiting;
     if (slot->stage.compare_exchange_strong(stage, Left))
         return std::nullopt;

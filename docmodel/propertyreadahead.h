@@ -57,9 +57,11 @@ private:
         Document document;
         Outcome outcome;
         std::atomic<Stage> stage = Waiting;
+        size_t position = 0;
     };
     class Helper;
-    bool ReadNext();  // false when there is none left
+    bool ReadNext();  // false when there is none left, or none near enough
+    void ReadAll();
     Stage ReadInto(Slot& slot) const;
 
     const int folder_;
@@ -67,6 +69,9 @@ private:
     std::vector<std::unique_ptr<Slot>> slots_;
     QHash<QByteArray, Slot*> byName_;
     std::atomic<size_t> next_ = 0;
+    // Behind the last document that was asked for: nobody reads far ahead of it, however long the
+    // next question takes to come.
+    std::atomic<size_t> asked_ = 0;
     std::atomic<bool> stops_ = false;
     std::vector<std::unique_ptr<QRunnable>> helpers_;
     QSemaphore ended_;

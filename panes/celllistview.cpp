@@ -3,6 +3,7 @@
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QStyledItemDelegate>
 #include <algorithm>
 
 #include "shell/picturestore.h"
@@ -11,6 +12,15 @@ namespace docbench {
 namespace {
 
 constexpr int kWidest = 420;  // pixels that a column takes by itself
+constexpr int kLeading = 4;   // pixels between the lines of two rows
+
+class RowDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kLeading);
+    }
+};
 
 }  // namespace
 
@@ -25,6 +35,7 @@ CellListView::CellListView(QWidget* parent) : QTreeView(parent) {
     setAlternatingRowColors(true);
     header()->setSectionsClickable(true);
     header()->setStretchLastSection(true);
+    setItemDelegate(new RowDelegate(this));
     list_.SetPictures(PictureOf);
     setModel(&list_);
     connect(header(), &QHeaderView::sectionClicked, this, &CellListView::HeaderClicked);

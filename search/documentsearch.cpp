@@ -21,16 +21,23 @@ struct Listing {
     QStringList folders;
 };
 
+// Links to folders come last, so that a folder is walked under its own name.
 Listing List(const QString& folder) {
     Listing listing;
+    QStringList links;
     QDirIterator entries(folder,
                          QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     while (entries.hasNext()) {
         entries.next();
-        (entries.fileInfo().isDir() ? listing.folders : listing.files).append(entries.fileName());
+        const QFileInfo entry = entries.fileInfo();
+        QStringList& kind = !entry.isDir()      ? listing.files
+                            : entry.isSymLink() ? links
+                                                : listing.folders;
+        kind.append(entries.fileName());
     }
-    listing.files.sort();
-    listing.folders.sort();
+    for (QStringList* names : {&listing.files, &listing.folders, &links})
+        names->sort();
+    listing.folders += links;
     return listing;
 }
 

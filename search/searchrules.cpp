@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "services/docaccess.h"
+#include "services/errorstate.h"
 #include "services/localvalues.h"
 #include "services/paths.h"
 #include "services/texts.h"
@@ -136,9 +137,12 @@ SearchCondition ConditionOf(const CellRow& rule) {
 
 void AddRules(const CellList& rules, PropertyQuery& query) {
     for (const CellRow& rule : rules.Rows()) {
-        const SearchCondition condition = ConditionOf(rule);
-        query.AddCondition(condition.connective, condition.property, condition.operatorCode,
-                           condition.value);
+        ErrorState passedOver;
+        passedOver.Run([&] {
+            const SearchCondition condition = ConditionOf(rule);
+            query.AddCondition(condition.connective, condition.property, condition.operatorCode,
+                               condition.value);
+        });
     }
 }
 

@@ -56,7 +56,7 @@ struct SearchCondition {
 };
 SearchCondition ConditionOf(const CellRow& rule);
 
-// Hands all rules over, in their order.
+// Hands all rules over, in their order. One that the query refuses is passed over.
 void AddRules(const CellList& rules, PropertyQuery& query);
 
 }  // namespace docbench

@@ -269,8 +269,14 @@ void srcControl::DeleteRules() {
     if (rows.isEmpty())
         return;
     CellList& rules = ui_->searchlist->List();
-    for (auto row = rows.crbegin(); row != rows.crend(); ++row)
-        rules.Remove(*row);
+    // From the end, a run of neighbours at a time.
+    for (qsizetype last = rows.size(); last > 0;) {
+        qsizetype first = last - 1;
+        while (first > 0 && rows[first - 1] == rows[first] - 1)
+            --first;
+        rules.Remove(rows[first], int(last - first));
+        last = first;
+    }
     if (rules.Count() == 0) {
         UpdateStartEnabled();
         ui_->srcSave->setEnabled(false);

@@ -1,10 +1,13 @@
 #include "setup/setup.h"
 
+#include <QCoreApplication>
 #include <QShowEvent>
+#include <algorithm>
 
 #include "frame/desccontrol.h"
 #include "services/dialogs.h"
 #include "services/language.h"
+#include "services/languagechoice.h"
 #include "services/openexternal.h"
 #include "services/seams.h"
 #include "services/texts.h"
@@ -40,6 +43,7 @@ setup::setup(QWidget* parent) : Pane(parent), ui_(std::make_unique<Ui::setup>())
         ApplyShowDesc(*shown);
     TakeUseViewer();
     ConnectControls();
+    FillLanguages();
     const bool hosted = IsHostedByCad();
     ui_->Frame4->setHidden(hosted);
     ui_->chkLogging->setHidden(hosted);
@@ -66,6 +70,7 @@ void setup::SetCaptions() {
     ui_->wumoveup->setText(Tr(Text::MoveUp));
     ui_->wumovedown->setText(Tr(Text::MoveDown));
     ui_->wuReset->setText(Tr(Text::ClearFolders));
+    ui_->labLanguage->setText(Tr(Text::PropertyLanguage));
     ui_->DescControl1->text(Tr(Text::SetupHelp));
     ui_->DescControl1->icon(PictureOf(QStringLiteral("SETU")));
     ui_->DescControl1->SetHelpFile(gHelpFile, HelpTopic());
@@ -88,6 +93,26 @@ void setup::ConnectControls() {
     });
     connect(ui_->chkLogging, &QCheckBox::stateChanged, this,
             [this] { Store(Option::Logging, *ui_->chkLogging); });
+    connect(ui_->cmbLanguage, &QComboBox::activated, this, &setup::TakeLanguage);
+}
+
+void setup::FillLanguages() {
+    ui_->cmbLanguage->addItem(tr("As the desktop"), QString());
+    for (const OfferedLanguage& language : OfferedLanguages(QCoreApplication::applicationDirPath()))
+        ui_->cmbLanguage->addItem(language.name, language.folder);
+}
+
+void setup::ShowLanguage() {
+    const int chosen = ui_->cmbLanguage->findData(ChosenLanguage());
+    ui_->cmbLanguage->setCurrentIndex(std::max(chosen, 0));
+}
+
+void setup::TakeLanguage() {
+    if (ChooseLanguage(ui_->cmbLanguage->currentData().toString()))
+        SetStatusText(tr("The language changes when the program starts again."));
+    else
+        gSeams.dialogs->Box(Tr(Text::OptionNotSaved), Dialogs::Icon::Exclamation, gAppTitle);
+    ShowLanguage();
 }
 
 QString setup::HelpTopic() const {
@@ -116,6 +141,7 @@ void setup::ReadOptions() {
     ApplyShowDesc(ui_->chkShowDesc->isChecked());
     TakeUseViewer();
     show(*ui_->chkLogging, ReadOption(Option::Logging));
+    ShowLanguage();
     mLoading = false;
 }
 

@@ -40,6 +40,9 @@ protected:
 private:
     void SetCaptions();
     void ConnectControls();
+    void FillLanguages();
+    void ShowLanguage();
+    void TakeLanguage();
     void ReadOptions();
     void TakeUseViewer();
     void ApplyShowDesc(bool value);

@@ -89,4 +89,15 @@
         <translation>请输入不含密码的地址；稍后会要求您输入密码。地址会被记住并列出，密码不应出现在其中。</translation>
     </message>
 </context>
+<context>
+    <name>docbench::setup</name>
+    <message>
+        <source>As the desktop</source>
+        <translation>跟随桌面</translation>
+    </message>
+    <message>
+        <source>The language changes when the program starts again.</source>
+        <translation>语言将在程序重新启动后更改。</translation>
+    </message>
+</context>
 </TS>

@@ -89,4 +89,15 @@
         <translation>Entrez l’adresse sans le mot de passe ; il vous sera demandé. Les adresses sont mémorisées et listées, un mot de passe n’y a pas sa place.</translation>
     </message>
 </context>
+<context>
+    <name>docbench::setup</name>
+    <message>
+        <source>As the desktop</source>
+        <translation>Comme le bureau</translation>
+    </message>
+    <message>
+        <source>The language changes when the program starts again.</source>
+        <translation>La langue change au prochain démarrage du programme.</translation>
+    </message>
+</context>
 </TS>

@@ -89,4 +89,15 @@
         <translation>Geben Sie die Adresse ohne das Passwort ein; Sie werden danach gefragt. Adressen werden gemerkt und aufgelistet, und ein Passwort gehört nicht dorthin.</translation>
     </message>
 </context>
+<context>
+    <name>docbench::setup</name>
+    <message>
+        <source>As the desktop</source>
+        <translation>Wie der Desktop</translation>
+    </message>
+    <message>
+        <source>The language changes when the program starts again.</source>
+        <translation>Die Sprache wechselt, wenn das Programm neu startet.</translation>
+    </message>
+</context>
 </TS>

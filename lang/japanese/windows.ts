@@ -89,4 +89,15 @@
         <translation>パスワードを含めずにアドレスを入力してください。パスワードは後で入力を求められます。アドレスは記憶されて一覧に表示されるため、パスワードを含めることはできません。</translation>
     </message>
 </context>
+<context>
+    <name>docbench::setup</name>
+    <message>
+        <source>As the desktop</source>
+        <translation>デスクトップに従う</translation>
+    </message>
+    <message>
+        <source>The language changes when the program starts again.</source>
+        <translation>言語は、プログラムを再起動すると切り替わります。</translation>
+    </message>
+</context>
 </TS>

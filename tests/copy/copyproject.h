@@ -73,6 +73,7 @@ struct CopyDesk {
                                 copies);
     }
     void FindParents() {
+        RowBatch rows = ParentRows(parents);
         SearchParents({.search = {.document = source,
                                   .status = [](const QString&) {},
                                   .yield = [] {},
@@ -80,7 +81,8 @@ struct CopyDesk {
                                   .progress = [](const SearchCounts&) {}},
                        .targetFolder = folder,
                        .affixes = affixes},
-                      library.Folder(), parents);
+                      library.Folder(), rows);
+        rows.Flush();
     }
     CheckOutcome Check() {
         return CheckBeforeCopy({.source = source,
@@ -102,6 +104,7 @@ struct CopyDesk {
                                         steps = QString("%1/%2").arg(done).arg(all);
                                     },
                                 .rowDone = [](CopyProgress::List, int) {},
+                                .rowInQuestion = [](CopyProgress::List, int) {},
                                 .yield = [this] { return !yield || yield(); }});
     }
 

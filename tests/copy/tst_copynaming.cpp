@@ -16,16 +16,18 @@ struct Desk : CopyDesk {
         bolt = library.Make("sub/bolt.tfmprt");
         top = library.Make("top.tfmasm", {{pin}, {bolt}});
         List(top);
-        AddParent(parents, {.found = {},
-                            .parent = library.Make("top.tfmdrw", {{top}}),
-                            .relation = {},
-                            .target = folder + "/x_top.tfmdrw",
-                            .local = library.Path("top.tfmdrw")});
-        AddParent(parents, {.found = {},
-                            .parent = library.Make("whole.tfmasm", {{top}}),
-                            .relation = {},
-                            .target = {},
-                            .local = library.Path("whole.tfmasm")});
+        RowBatch rows = ParentRows(parents);
+        AddParent(rows, {.found = {},
+                         .parent = library.Make("top.tfmdrw", {{top}}),
+                         .relation = {},
+                         .target = folder + "/x_top.tfmdrw",
+                         .local = library.Path("top.tfmdrw")});
+        AddParent(rows, {.found = {},
+                         .parent = library.Make("whole.tfmasm", {{top}}),
+                         .relation = {},
+                         .target = {},
+                         .local = library.Path("whole.tfmasm")});
+        rows.Flush();
     }
     void Recompute(const QString& to, const Affixes& by, bool forceLong) {
         RecomputeTargets({.folder = to, .affixes = by, .forceLong = forceLong}, walked.rowFolders,

@@ -4,6 +4,8 @@
 
 #include "services/spreadsheet.h"
 #include "tests/copy/copybench.h"
+#include "tests/copy/copyproject.h"
+#include "tests/support/failingaccess.h"
 #include "tests/support/fakeoutside.h"
 #include "tests/support/testenvironment.h"
 #include "whereused/filemissingdialog.h"
@@ -287,10 +289,17 @@ private Q_SLOTS:
         CopyBench bench;
         bench.Load();
         bench.InForm<editDialog>([&](editDialog* form) {
-            QVERIFY(!form->findChild<QPushButton*>("findNext")->isEnabled());
+            const auto expectEnabled = [&](bool enabled) {
+                for (const char* name : {"findNext", "ReplaceButton", "replaceallButton"})
+                    QCOMPARE(form->findChild<QPushButton*>(name)->isEnabled(), enabled);
+            };
+            expectEnabled(false);
+            form->findChild<QLineEdit*>("FindtextBox")->setText("x_");
+            expectEnabled(true);
+            form->findChild<QLineEdit*>("FindtextBox")->clear();
+            expectEnabled(false);
             form->findChild<QLineEdit*>("FindtextBox")->setText("x_");
             form->findChild<QLineEdit*>("replaceTextBox")->setText("4711-");
-            QVERIFY(form->findChild<QPushButton*>("findNext")->isEnabled());
             form->findChild<QPushButton*>("findNext")->click();
             QCOMPARE(bench.View(0)->SelectedRow(), 0);
             form->findChild<QPushButton*>("ReplaceButton")->click();
@@ -369,6 +378,52 @@ private Q_SLOTS:
         QVERIFY(!bench.IsEnabled("cmdReplace") && !bench.IsEnabled("selectall"));
         QCOMPARE(bench.Target(0).foreColor, kColorBlue);
         QCOMPARE(updated.count(), 0);
+    }
+
+    void theRowThatIsAskedAboutIsInView_data() {
+        QTest::addColumn<bool>("isCopied");
+        QTest::newRow("the copy ends with it") << false;
+        QTest::newRow("its references can't be written") << true;
+    }
+    void theRowThatIsAskedAboutIsInView() {
+        QFETCH(bool, isCopied);
+        CopyBench bench;
+        QList<TestLibrary::Component> groups;
+        constexpr int kRows = 60;
+        for (int i = 0; i < kRows; ++i)
+            groups.append({bench.library.Make(QString("group%1.tfmasm").arg(i), {{bench.pin}})});
+        bench.top = bench.library.Make("top.tfmasm", groups);
+        bench.Load();
+        int row = bench.List(0).Count() - 1;
+        while (ReadCopyRow(bench.List(0).At(row)).source != bench.library.Path("group59.tfmasm"))
+            --row;
+        const QString target = bench.Target(row).tag;
+        const auto isInView = [&] {
+            const QRect rect = bench.View(0)->visualRect(bench.List(0).index(row, 0));
+            return bench.View(0)->viewport()->rect().contains(rect.center());
+        };
+        QVERIFY(!isInView());
+        if (isCopied) {
+            const FailingAccess failing([&](const char* operation, const QString& path) {
+                if (operation == QLatin1String("Save") && path == target)
+                    throw DocumentError("no room");
+            });
+            AnsweringDialogs dialogs;
+            bool wasInView = false;
+            dialogs.answer = [&](const QString&) {
+                wasInView = isInView();
+                return Dialogs::Answer::No;
+            };
+            bench.Click("apply");
+            QCOMPARE(dialogs.boxes.size(), 1);
+            QVERIFY(wasInView);
+        } else {
+            bench.library.Make("new/x_group59.tfmasm");
+            bench.dialogs.Expect(Format(Text::OverwriteQuestion, target), Dialogs::Icon::Question,
+                                 Dialogs::Answer::Cancel);
+            bench.Click("apply");
+            QVERIFY(isInView());
+        }
     }
 
     void aFolderThatCanNotBeMadeIsToldAndFreesThePane() {

@@ -9,6 +9,7 @@
 #include "services/filesystem.h"
 #include "tests/copy/copyproject.h"
 #include "tests/support/failingaccess.h"
+#include "tests/support/mortaldisk.h"
 #include "tests/support/testenvironment.h"
 
 using namespace docbench;
@@ -326,11 +327,31 @@ private Q_SLOTS:
         }
     }
 
-    void aSourceThatIsSavedWhileItIsCopiedIsCopiedAgain() {
+    // What was done by then stays done; nothing of it is half.
+    void whereverTheProcessDiesEveryDocumentIsWhole() {
+        AnsweringDialogs dialogs;
+        Project project;
+        project.Restore();
+        const int calls = CallsThatChangeTheDisk([&] { project.Run(); });
+        QVERIFY(calls > 3 * (kCopies + 1));
+        for (int nth = 1; nth <= calls; ++nth) {
+            project.Restore();
+            QVERIFY2(KilledAt(nth, [&] { project.Run(); }), QByteArray::number(nth));
+            QFile::remove(project.Copy(".part.tmp"));
+            QFile::remove(project.Copy("sub/.part.tmp"));
+            QVERIFY2(project.Broken().isEmpty(), qPrintable(project.Broken()));
+            // What the dead process left is no hindrance.
+            if (nth % 10 == 0) {
+                project.Restore();
+                QCOMPARE(project.Run().copied, kCopies);
+                QVERIFY2(project.Broken().isEmpty(), qPrintable(project.Broken()));
+            }
+        }
+    }
+
+    void aSourceThatIsSavedBehindItsCopyLeavesTheCopyAsItWasMade() {
         CopyDesk desk;
         AnsweringDialogs dialogs;
-        // Larger than a pipe, so that a reader can change it in between: here before the copy ends
-        // by having the copy of one document change the next one's source.
         const QString pin = desk.library.Make("pin.tfmprt");
         const QString bolt = desk.library.Make("bolt.tfmprt");
         const QString left = desk.library.Make("left.tfmasm", {{pin}});

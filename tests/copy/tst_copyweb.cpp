@@ -144,6 +144,7 @@ private Q_SLOTS:
                     desk.server.Path("whole.tfmasm"));
         QFile::copy(desk.library.Make("top.tfmdrw", {{desk.top}}), desk.server.Path("top.tfmdrw"));
         desk.From(desk.Url("top.tfmasm"), desk.Url("new"));
+        RowBatch rows = ParentRows(desk.parents);
         SearchParents({.search = {.document = desk.source,
                                   .status = [](const QString&) {},
                                   .yield = [] {},
@@ -151,7 +152,8 @@ private Q_SLOTS:
                                   .progress = [](const SearchCounts&) {}},
                        .targetFolder = desk.folder,
                        .affixes = desk.affixes},
-                      desk.Url(), desk.parents);
+                      desk.Url(), rows);
+        rows.Flush();
         QCOMPARE(desk.parents.Count(), 2);
         const CopyResult result = desk.Run();
         QCOMPARE(result.copied, 4);

@@ -25,6 +25,7 @@ struct Desk : CopyDesk {
     const CellRow& Parent(int row) const { return parents.At(row); }
     QString Shown(int row, int column) const { return Parent(row).cells[size_t(column)].text; }
     void Find(const UseKinds& kinds = {}, const QString& folders = {}) {
+        RowBatch rows = ParentRows(parents);
         SearchParents({.search = {.document = source,
                                   .kinds = kinds,
                                   .status = [this](const QString& text) { status.append(text); },
@@ -33,7 +34,8 @@ struct Desk : CopyDesk {
                                   .progress = [](const SearchCounts&) {}},
                        .targetFolder = folder,
                        .affixes = affixes},
-                      folders.isEmpty() ? library.Folder() : folders, parents);
+                      folders.isEmpty() ? library.Folder() : folders, rows);
+        rows.Flush();
     }
     QString pin;
 };
@@ -67,13 +69,16 @@ private Q_SLOTS:
     void twoReferencesOfOneParentAreTwoRows() {
         Desk desk;
         const QString bolt = desk.library.Make("bolt.tfmprt");
-        desk.library.Make("holder.tfmasm", {{desk.pin}, {bolt}, {desk.pin}}, {{desk.pin, "in"}});
+        desk.library.Make("sub/holder.tfmasm", {{desk.pin}, {bolt}, {desk.pin}},
+                          {{desk.pin, "in"}});
         desk.Find();
         QCOMPARE(desk.parents.Count(), 3);
         QCOMPARE(desk.Shown(0, kParentNumber), QString("0"));
         QCOMPARE(desk.Shown(1, kParentNumber), QString("2"));
         QVERIFY(ReadParentRow(desk.Parent(2)).external);
-        desk.Find();  // those that are listed are not listed again
+        desk.parents.Clear();
+        desk.Find({}, desk.library.Folder() + ';' + desk.library.Path("sub"));
+        // What one folder gave is not listed again for the next.
         QCOMPARE(desk.parents.Count(), 3);
     }
 

@@ -42,6 +42,8 @@ public:
         // Another document that is likely to have the same size.
         std::function<void(const QString& path, const QString& twin, QRandomGenerator& random)>
             twin;
+        // Documents of the folder that come and go without any other being written; may be empty.
+        QStringList others = {};
     };
 
     ChangingFolder(const QString& folder, quint32 seed, Maker maker)
@@ -53,7 +55,7 @@ public:
 
     // One change; its name, for a failing test to tell.
     const char* Change() {
-        switch (random_.bounded(12)) {
+        switch (random_.bounded(maker_.others.isEmpty() ? 12 : 13)) {
             case 0:
                 Write(folder_ + '/' + NewName());
                 return "write a document";
@@ -87,9 +89,11 @@ public:
             case 10:
                 Spoil(Any());
                 return "spoil";
-            default:
+            case 11:
                 LinkTo(folder_ + '/' + NewName());
                 return "link";
+            default:
+                return ComeOrGo(folder_ + '/' + Pick(maker_.others));
         }
     }
 
@@ -167,6 +171,12 @@ private:
         const Times times(path);
         QFile::resize(path, random_.bounded(100));
         times.Restore(path);
+    }
+    const char* ComeOrGo(const QString& path) {
+        if (QFile::remove(path))
+            return "a target goes";
+        Write(path);
+        return "a target comes";
     }
     void LinkTo(const QString& path) {
         const QString other = folder_ + "/elsewhere/linked.tfmasm";

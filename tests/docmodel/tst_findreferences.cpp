@@ -268,6 +268,30 @@ private Q_SLOTS:
         QCOMPARE(walked, QStringList({folder_->path(), Path("a"), Path("a/other"), Path("b")}));
     }
 
+    void AFolderIsSearchedUnderItsOwnNameRatherThanALinks() {
+        QDir(folder_->path()).mkpath("library");
+        QDir(folder_->path()).mkpath("works");
+        QVERIFY(QFile::link(Path("library"), Path("current")));
+        MakeDocument(Path("library/x.tfmasm"), {Path("gear.tfmprt")});
+        auto searcher = Access().MakeFolderSearcher();
+        searcher->FindReferences(NameQuery(folder_->path(), "gear", "*"));
+        QCOMPARE(Subfolders(*searcher),
+                 QStringList({Path("library"), Path("works"), Path("current")}));
+        QCOMPARE(searcher->FindReferences(NameQuery(Path("library"), "gear", "*")), 1);
+        QCOMPARE(searcher->FindReferences(NameQuery(Path("current"), "gear", "*")), 0);
+        QCOMPARE(searcher->GetSearchCounts().documents, 1);
+        QCOMPARE(searcher->FindReferences(NameQuery(Path("library"), "gear", "*")), 1);
+    }
+
+    void ALinkCanBeAskedAboutAgain() {
+        QDir(folder_->path()).mkpath("library");
+        QVERIFY(QFile::link(Path("library"), Path("current")));
+        MakeDocument(Path("library/x.tfmasm"), {Path("gear.tfmprt")});
+        auto searcher = Access().MakeFolderSearcher();
+        for (int i = 0; i < 2; ++i)
+            QCOMPARE(searcher->FindReferences(NameQuery(Path("current"), "gear", "*")), 1);
+    }
+
     void ALinkToADocumentIsADocument() {
         QDir(folder_->path()).mkpath("elsewhere");
         QDir(folder_->path()).mkpath("here");

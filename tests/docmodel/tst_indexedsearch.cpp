@@ -31,8 +31,11 @@ public:
     ChangingFolder::Maker Maker() const {
         return {.write =
                     [this](const QString& path, QRandomGenerator& random) {
-                        MakeDocument(path, Targets(random.bounded(3), random),
-                                     Targets(random.bounded(3), random));
+                        if (random.bounded(4) == 0)
+                            WriteMoved(path, random);
+                        else
+                            MakeDocument(path, Targets(random.bounded(3), random),
+                                         Targets(random.bounded(3), random));
                     },
                 .edit =
                     [this](const QString& path, QRandomGenerator& random) {
@@ -46,7 +49,8 @@ public:
                         auto document = OpenFile(path);
                         MakeDocument(twin, Targets(document->GetComponentCount(), random),
                                      Targets(document->GetExternalReferenceCount(), random));
-                    }};
+                    },
+                .others = {"gear-b.tfmprt", "bolt-a.tfmasm", "bolt-b.tfmdrw"}};
     }
 
     // Any target, any extension or kind of row.
@@ -63,6 +67,15 @@ public:
 private:
     static QString Pick(const QStringList& of, QRandomGenerator& random) {
         return of[random.bounded(int(of.size()))];
+    }
+    // As somebody's whose project lay elsewhere: which of the two paths of a row counts is a matter
+    // of what exists at the time of the question.
+    void WriteMoved(const QString& path, QRandomGenerator& random) const {
+        const QString row = QString("<component path=\"%1\" relative=\"%2\"/>");
+        const QString elsewhere = "/gone/" + Pick(kTargets, random) + '.' + Pick(kKinds, random);
+        const QString here = Target(random).section('/', -1);
+        const QString rows = row.arg(elsewhere, here) + row.arg(Target(random), "../" + here);
+        WriteTables(path, Tables("<components>" + rows.toUtf8() + "</components>"));
     }
     QString Target(QRandomGenerator& random) const {
         return QString("%1/%2.%3").arg(folder_, Pick(kTargets, random), Pick(kKinds, random));

@@ -1,10 +1,12 @@
 // The reference index: it makes searches faster, and no answer different.
 
 #include <fcntl.h>
+#include <linux/capability.h>
 #include <linux/magic.h>
 #include <signal.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include <QDir>
@@ -42,6 +44,14 @@ FileState StateOfFile(const QString& path) {
 void SetModified(const QString& path, time_t seconds, long nanoseconds = 0) {
     const timespec times[2] = {{seconds, nanoseconds}, {seconds, nanoseconds}};
     utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0);
+}
+
+// From here on this process may write what its modes let it write, even if it is the superuser's.
+void GiveUpPrivileges() {
+    __user_cap_header_struct header = {_LINUX_CAPABILITY_VERSION_3, 0};
+    __user_cap_data_struct capabilities[_LINUX_CAPABILITY_U32S_3] = {};
+    if (syscall(SYS_capset, &header, capabilities) != 0)
+        throw DocumentError("the privileges can't be given up");
 }
 
 // Runs statements on the database of the index, as another program would.
@@ -352,6 +362,41 @@ private Q_SLOTS:
         };
         QCOMPARE(InChild(search), 0);
         QCOMPARE(Find().size(), 300);
+    }
+
+    // Of somebody else, or on a disk that takes no writes.
+    void AReadOnlyIndexChangesNoAnswer_data() {
+        QTest::addColumn<bool>("withLog");
+        QTest::newRow("with a log of writes beside it") << true;
+        QTest::newRow("alone") << false;
+    }
+    void AReadOnlyIndexChangesNoAnswer() {
+        QFETCH(bool, withLog);
+        MakeDocument(Path("a.tfmasm"), {Path("gear.tfmprt")});
+        MakeDocument(Path("b.tfmasm"), {Path("gear.tfmprt")});
+        Find();
+        MakeDocument(Path("b.tfmasm"), {Path("other.tfmprt")});  // which the index does not know
+        const std::unique_ptr<OtherProgram> log(withLog ? new OtherProgram : nullptr);
+        if (log)
+            QVERIFY(log->Run("UPDATE folders SET properties = x'00'"));
+        const QString index = cache_->filePath("index");
+        for (const QString& name : QDir(index).entryList(QDir::Files))
+            QFile::setPermissions(index + '/' + name, QFile::Permissions(0x4444));
+        QCOMPARE(QFile::exists(GlobalIndexSettings().file + "-wal"), withLog);
+        for (const QString& folder : {index, cache_->path(), folder_->path()})
+            QFile::setPermissions(folder, QFile::Permissions(0x5555));
+        const QByteArray before = FileBytes(GlobalIndexSettings().file);
+        const auto search = [this] {
+            GiveUpPrivileges();
+            for (int i = 0; i < 2; ++i)
+                if (Find() != QStringList("a.tfmasm 0 gear.tfmprt"))
+                    throw DocumentError("another answer");
+        };
+        const int result = InChild(search);
+        for (const QString& folder : {index, cache_->path(), folder_->path()})
+            QFile::setPermissions(folder, QFile::Permissions(0x7555));
+        QCOMPARE(result, 0);
+        QCOMPARE(FileBytes(GlobalIndexSettings().file), before);
     }
 
     void ALockedIndexIsDoneWithout() {

@@ -139,7 +139,8 @@ void TestWindowTexts::everyLanguageHasTheWordsOfTheProgram() {
     QProcess reader;
     reader.start(QStringLiteral(DOCBENCH_LUPDATE),
                  {QStringLiteral("-silent"), sources + QStringLiteral("/platform"),
-                  sources + QStringLiteral("/services"), QStringLiteral("-I"), sources,
+                  sources + QStringLiteral("/services"), sources + QStringLiteral("/setup"),
+                  QStringLiteral("-I"), sources,
                   QStringLiteral("-ts"), found});
     QVERIFY(reader.waitForFinished());
     QCOMPARE(reader.exitCode(), 0);

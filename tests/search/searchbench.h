@@ -75,7 +75,9 @@ struct SearchBench {
         return texts;
     }
     void ClickRule(int row, Qt::KeyboardModifiers keys = Qt::NoModifier) {
-        const QRect where = Rules()->visualRect(Rules()->List().index(row, 1));
+        const QModelIndex index = Rules()->List().index(row, 1);
+        Rules()->scrollTo(index);
+        const QRect where = Rules()->visualRect(index);
         QTest::mouseClick(Rules()->viewport(), Qt::LeftButton, keys, where.center());
     }
 

@@ -192,6 +192,19 @@ private Q_SLOTS:
         QVERIFY(bench.Button("srcSave")->isEnabled());
     }
 
+    void RulesThatAreNoNeighboursAreDeletedAlone() {
+        SearchBench bench;
+        for (const char* value : {"a", "b", "c", "d", "e", "f"})
+            bench.Add("Title", kContains, value);
+        bench.ClickRule(0);
+        for (const int row : {2, 3, 5})
+            bench.ClickRule(row, Qt::ControlModifier);
+        bench.Click("srcDelete");
+        QCOMPARE(bench.Rules()->List().Count(), 2);
+        QCOMPARE(bench.Rules()->List().At(0).cells[kRuleValue].text, QString("b"));
+        QCOMPARE(bench.Rules()->List().At(1).cells[kRuleValue].text, QString("e"));
+    }
+
     void DeletingSomeDisablesTheButtonThoughRowsAreSelected() {
         SearchBench bench;
         for (const char* value : {"a", "b", "c"})

@@ -198,6 +198,18 @@ private Q_SLOTS:
         }
     }
 
+    void ARuleThatIsRefusedIsPassedOver() {
+        CellList rules;
+        for (const char* property : {"First", "Refused", "Last"})
+            rules.Append(MakeRule("", property, gStrings[298], "gear", 2));
+        FakeAnswers answers;
+        answers.refused = {"Refused"};
+        FakeQuery query(answers);
+        AddRules(rules, query);
+        QCOMPARE(answers.conditions.size(), size_t(2));
+        QCOMPARE(answers.conditions[1].property, QString("Last"));
+    }
+
     void AnOperatorIsFoundByItsExactText() {
         const QStringList all = OperatorTexts(Operators::All);
         QCOMPARE(FindOperatorCode(all, gStrings[298]), 2);

@@ -174,6 +174,35 @@ private Q_SLOTS:
         QCOMPARE(bench.Found(), QStringList("a.prt"));
     }
 
+    // As the tree hands it over again with every click on its row.
+    void TheSameDocumentAgainStopsNothing() {
+        SearchBench bench;
+        for (const char* name : {"a.prt", "b.prt"})
+            bench.File(name);
+        bench.pane->SetDocument({.path = "/x/pin.tfmprt"});
+        bench.LookIn()->setText(bench.root);
+        bench.access.answers.matches = [&](const QString&) {
+            bench.pane->SetDocument({.path = "/x/pin.tfmprt"});
+            return true;
+        };
+        bench.Search();
+        QCOMPARE(bench.Found(), QStringList({"a.prt", "b.prt"}));
+    }
+
+    void AnEvaluationThatRaisesIsNoMatch() {
+        SearchBench bench;
+        for (const char* name : {"a.prt", "b.prt", "c.prt"})
+            bench.File(name);
+        bench.access.answers.matches = [&](const QString& path) {
+            if (path.endsWith("b.prt"))
+                throw DocumentError("broken");
+            return true;
+        };
+        bench.Search();
+        QCOMPARE(bench.Found(), QStringList({"a.prt", "c.prt"}));
+        QCOMPARE(bench.status.caption, sprintf(gStrings[293], {"2"}));
+    }
+
     void ThePaneMayGoAwayDuringASearch() {
         SearchBench bench;
         for (const char* name : {"a.prt", "b.prt"})

@@ -9,7 +9,11 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <atomic>
 #include <csignal>
+#include <cstdio>
+#include <stop_token>
+#include <thread>
 
 #include "services/docaccess.h"
 #include "services/filesystem.h"
@@ -28,6 +32,11 @@ struct Folder {
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
             qFatal("can't write %s", qPrintable(name));
         return Path(name);
+    }
+    void WriteOver(const QString& name, const QByteArray& bytes) const {
+        QFile file(Path(name));
+        if (!file.open(QIODevice::ReadWrite) || file.write(bytes) != bytes.size())
+            qFatal("can't write %s", qPrintable(name));
     }
     QByteArray Read(const QString& name) const {
         QFile file(Path(name));
@@ -63,6 +72,10 @@ private:
     rlimit limit_{};
     void (*former_)(int);
 };
+
+// Long enough for another thread to come in between, mostly; else it is tried again.
+constexpr int kLong = 16 << 20;
+constexpr int kTries = 100;
 
 QByteArray Bytes(int count) {
     QByteArray bytes(count, '\0');
@@ -186,6 +199,66 @@ private Q_SLOTS:
         }
         QCOMPARE(folder.Names(), (QStringList{"a", "old"}));
         QCOMPARE(folder.Read("old"), QByteArray("somebody's work"));
+    }
+
+    void aSourceThatKeepsChangingIsNotCopied() {
+        const Folder folder;
+        const QString source = folder.Write("a", Bytes(kLong));
+        folder.Write("b", "somebody's work");
+        QString said;
+        for (int tries = 0; said.isEmpty() && tries < kTries; ++tries) {
+            std::atomic<bool> isDone = false;
+            const std::jthread other([&] {
+                for (long i = 0; !isDone; ++i) {
+                    const timespec times[] = {{0, UTIME_OMIT}, {1'000'000'000 + i, 0}};
+                    utimensat(AT_FDCWD, QFile::encodeName(source).constData(), times, 0);
+                }
+            });
+            try {
+                Files().Copy(source, folder.Path("b"), IfThere::Replace);
+                folder.Write("b", "somebody's work");  // the other one got no turn
+            } catch (const DocumentError& error) {
+                said = error.Description();
+            }
+            isDone = true;
+        }
+        QVERIFY2(said.contains(source) && said.contains("keeps changing"), qPrintable(said));
+        QCOMPARE(folder.Read("b"), QByteArray("somebody's work"));
+        QCOMPARE(folder.Names(), (QStringList{"a", "b"}));
+    }
+
+    void aSourceThatIsSavedWhileItIsCopiedIsCopiedAnew_data() {
+        QTest::addColumn<bool>("inPlace");
+        QTest::newRow("in its place") << true;
+        QTest::newRow("by another file") << false;
+    }
+    void aSourceThatIsSavedWhileItIsCopiedIsCopiedAnew() {
+        QFETCH(bool, inPlace);
+        const QByteArray before(kLong, 'b');
+        const QByteArray after(kLong, 'a');
+        bool isSeen = false;
+        for (int tries = 0; !isSeen && tries < kTries; ++tries) {
+            const Folder folder;
+            const QString source = folder.Write("source", before);
+            const QString next = folder.Write("next", after);
+            {
+                const std::jthread other([&](const std::stop_token& stopped) {
+                    while (folder.Names().size() < 3 && !stopped.stop_requested()) {
+                    }
+                    if (inPlace)
+                        folder.WriteOver("source", after);
+                    else
+                        std::rename(QFile::encodeName(next).constData(),
+                                    QFile::encodeName(source).constData());
+                });
+                QVERIFY(Files().Copy(source, folder.Path("copy"), IfThere::Refuse));
+            }
+            // One or the other, whenever that save came, and the new one if it came in the middle.
+            const QByteArray copy = folder.Read("copy");
+            QVERIFY(copy == before || copy == after);
+            isSeen = copy == after;
+        }
+        QVERIFY(isSeen);
     }
 
     void aFullDiskIsNamed() {

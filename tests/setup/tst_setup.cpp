@@ -1,6 +1,7 @@
 // The setup pane through its widgets, with the settings file read back.
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
@@ -15,6 +16,7 @@
 #include "services/documentlibrary.h"
 #include "services/folderlists.h"
 #include "services/language.h"
+#include "services/languagechoice.h"
 #include "services/openexternal.h"
 #include "services/settingsstore.h"
 #include "services/texts.h"
@@ -63,6 +65,32 @@ private:
         while (files.hasNext())
             QFile::setPermissions(files.next(), rights);
     }
+};
+
+// A settings file that holds something else, for as long as it lives.
+class BrokenSettings {
+public:
+    BrokenSettings()
+        : path_(qEnvironmentVariable("XDG_CONFIG_HOME") + "/Tessaforma/TessaformaDocbench.ini") {
+        Options()->SetText("anything", "is there");
+        before_ = Content();
+        Fill(content);
+    }
+    ~BrokenSettings() { Fill(before_); }
+    QByteArray Content() const {
+        QFile file(path_);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    const QByteArray content = "<?xml version=\"1.0\"?>\n<settings/>\n";
+
+private:
+    void Fill(const QByteArray& bytes) const {
+        QFile file(path_);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("no settings file");
+    }
+    const QString path_;
+    QByteArray before_;
 };
 
 struct Bench {
@@ -299,6 +327,57 @@ private Q_SLOTS:
         bench.Click("wuDelKey");
         QVERIFY(bench.dialogs.AllCame());
         QVERIFY(RowOf(bench, "Vendors") >= 0);
+    }
+
+    // What can't be read is not written either: nothing of it is lost.
+    void aBrokenSettingsFileIsLeftAlone() {
+        Bench bench;
+        bench.Show();
+        const BrokenSettings broken;
+        QSignalSpy changed(bench.pane.get(), &setup::SetupChanged);
+        bench.Box("chkOpenFile")->click();  // no box
+        bench.Box("chkShowDesc")->click();
+        QVERIFY(changed.isEmpty());
+        QVERIFY(!bench.pane->ShowDesc());
+        bench.Key()->setText("Vendors");
+        bench.Click("wuApply");
+        QCOMPARE(broken.Content(), broken.content);
+        Bench other;  // and is shown as if nothing was stored
+        other.Show();
+        QCOMPARE(other.Box("chkOpenFile")->checkState(), Qt::PartiallyChecked);
+        QVERIFY(other.Box("chkShowDesc")->isChecked());
+        QCOMPARE(other.Names()->List().Count(), 0);
+    }
+
+    void aLanguageIsChosenForTheNextStart() {
+        Bench bench;
+        bench.Show();
+        auto* languages = bench.Child<QComboBox>("cmbLanguage");
+        QCOMPARE(languages->currentIndex(), 0);
+        QCOMPARE(languages->count(), 6);
+        const int german = languages->findText("Deutsch");
+        languages->setCurrentIndex(german);
+        QCOMPARE(ChosenLanguage(), QString());  // only the user's choice counts
+        Q_EMIT languages->activated(german);
+        QCOMPARE(ChosenLanguage(), QString("german"));
+        QVERIFY(!bench.status.caption.isEmpty());
+        Bench other;
+        other.Show();
+        QCOMPARE(other.Child<QComboBox>("cmbLanguage")->currentText(), QString("Deutsch"));
+        languages->setCurrentIndex(0);
+        Q_EMIT languages->activated(0);
+        QCOMPARE(ChosenLanguage(), QString());
+    }
+
+    void aLanguageThatCannotBeStoredIsTold() {
+        Bench bench;
+        bench.Show();
+        const ReadOnlySettings readOnly;
+        auto* languages = bench.Child<QComboBox>("cmbLanguage");
+        languages->setCurrentIndex(1);
+        bench.dialogs.Expect(gStrings[256], Dialogs::Icon::Exclamation);
+        Q_EMIT languages->activated(1);
+        QCOMPARE(languages->currentIndex(), 0);
     }
 
     void theShellFollowsTheOptions() {

@@ -25,6 +25,7 @@ struct FakeAnswers {
     QStringList fileNames;  // as they were set, one by one
     QStringList announced;
     QSet<QString> unread;
+    QSet<QString> refused;  // properties that no condition can be on
     std::function<bool(const QString& path)> matches = [](const QString&) { return true; };
 };
 
@@ -34,6 +35,8 @@ public:
 
     void AddCondition(const QString& connective, const QString& property, int code,
                       const QVariant& value) override {
+        if (answers_.refused.contains(property))
+            throw DocumentError("no condition on " + property);
         answers_.conditions.push_back({connective, property, code, value});
     }
     void SetFileName(const QString& name) override { answers_.fileNames.append(name); }
