@@ -10,23 +10,39 @@ files() {
 as_user() {
     runuser -u tester -- env HOME=/home/tester QT_QPA_PLATFORM=offscreen "$@"
 }
+quietly() {
+    "$@" >/root/log 2>&1 || { cat /root/log; exit 1; }
+}
+
+# Removes the packages with all that came with them, and looks for what they left.
+remove_and_look() {
+    quietly apt-get purge -y -q "$@"
+    if grep -rl -i tessaforma /usr /etc /var/lib/dpkg/info; then
+        echo "These files still know of it." >&2
+        exit 1
+    fi
+    files >/root/after
+    if grep -i -E 'docbench|docmodel|tessaforma' /root/after; then
+        echo "These files stayed." >&2
+        exit 1
+    fi
+}
 
 useradd --create-home tester
-apt-get update -q
+quietly apt-get update -q
 # What a desktop has, so that the package meets the caches that it is entered into.
-apt-get install -y -q --no-install-recommends desktop-file-utils shared-mime-info man-db >/dev/null
+quietly apt-get install -y -q --no-install-recommends desktop-file-utils shared-mime-info man-db
 files >/root/before
 
 echo "== Installing"
-apt-get install -y -q --no-install-recommends /root/docbench_*.deb
+quietly apt-get install -y -q --no-install-recommends /root/docbench_*.deb
 docbench --version
 
 echo "== Working with a new sample library"
 cd /home/tester
 assembly=$(as_user docbench-samples /home/tester/gearbox | tail -n 1)
 as_user docbench tree "$assembly"
-as_user docbench where-used /home/tester/gearbox/fasteners/washer.tfmprt --in /home/tester/gearbox |
-    head -n 3
+as_user docbench where-used "/home/tester/gearbox/fasteners/washer.tfmprt" --in /home/tester/gearbox
 as_user docmodel check "$assembly"
 
 echo "== What the desktop knows"
@@ -38,26 +54,24 @@ grep -h tessaforma /usr/share/applications/mimeinfo.cache
 as_user docbench --screenshot /home/tester/window.png "$assembly"
 test -s /home/tester/window.png
 
+echo "== Removing"
+remove_and_look docbench
+quietly apt-get autoremove --purge -y -q
+files >/root/after
+if ! diff /root/before /root/after; then
+    echo "The system is not what it was." >&2
+    exit 1
+fi
+echo "The system has the files that it had before."
+
 echo "== Building a host of the controls"
-apt-get install -y -q --no-install-recommends /root/docbench-dev_*.deb g++ cmake make >/dev/null
+quietly apt-get install -y -q --no-install-recommends /root/docbench_*.deb /root/docbench-dev_*.deb \
+    g++ cmake make
 cp -r /usr/share/doc/docbench/example /home/tester/host
 chown -R tester /home/tester/host
-as_user cmake -S /home/tester/host -B /home/tester/host/build >/dev/null
-as_user cmake --build /home/tester/host/build >/dev/null
+quietly as_user cmake -S /home/tester/host -B /home/tester/host/build
+quietly as_user cmake --build /home/tester/host/build
 as_user /home/tester/host/build/docbench-host "$assembly" /home/tester/host.png
 test -s /home/tester/host.png
-
-echo "== Removing"
-apt-get purge -y -q docbench docbench-dev
-apt-get autoremove --purge -y -q >/dev/null
-files >/root/after
-if grep -i -E 'docbench|docmodel|tessaforma|tfm(prt|asm|drw)' /root/after; then
-    echo "These files stayed." >&2
-    exit 1
-fi
-if grep -rl -i tessaforma /usr/share/mime /usr/share/applications /var/lib/dpkg/info; then
-    echo "These files still know of it." >&2
-    exit 1
-fi
-echo "Nothing of it stayed. The system beside it, before and after:"
-diff /root/before /root/after || true
+remove_and_look docbench docbench-dev
+echo "Everything is as it should be."

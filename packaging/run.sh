@@ -46,7 +46,6 @@ cp packaging/inside.sh "$packages"/*.deb "$root/root/"
 # A mount namespace of its own: whatever happens, no mount is left behind.
 unshare --mount --propagation private sh -ec "
     mount -t proc proc '$root/proc'
-    mount -t devtmpfs devtmpfs '$root/dev' 2>/dev/null || mount --rbind /dev '$root/dev'
     exec env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LC_ALL=C.UTF-8 \
         DEBIAN_FRONTEND=noninteractive chroot '$root' sh -eu /root/inside.sh"
 echo
