@@ -105,7 +105,7 @@ void DocumentBuilder::Data::ChangeConfiguration(int index,
     DocumentPart& tables = Content().Tables();
     PropertySet set(tables.ConfigurationProperties(index));
     for (const CustomProperty& property : properties)
-        if (!set.Set(property.name, property.value))
+        if (!set.Set(property.name, property.value, path))
             throw FailedError(path, QStringLiteral("changed"),
                               QStringLiteral("the property \"%1\" of its configuration %2 can't be "
                                              "stored. Change its name or value")
@@ -168,7 +168,7 @@ void DocumentBuilder::SetLastSaved(const QDateTime& time, const QString& user) {
 bool DocumentBuilder::SetCustomProperty(const QString& name, const QVariant& value) {
     CustomProperties& custom = data_->Content().Custom();
     PropertySet set(custom.Properties());
-    if (!set.Set(name, value))
+    if (!set.Set(name, value, data_->path))
         return false;
     set.ApplyTo(custom);
     return true;
@@ -177,7 +177,7 @@ bool DocumentBuilder::SetCustomProperty(const QString& name, const QVariant& val
 bool DocumentBuilder::DeleteCustomProperty(const QString& name) {
     CustomProperties& custom = data_->Content().Custom();
     PropertySet set(custom.Properties());
-    const bool isThere = set.Delete(name);
+    const bool isThere = set.Delete(name, data_->path);
     set.ApplyTo(custom);
     return isThere;
 }
@@ -222,7 +222,7 @@ bool DocumentBuilder::SetConfigurationProperty(const QString& configuration, con
     const int index = data_->NeedConfiguration(configuration);
     DocumentPart& tables = data_->Content().Tables();
     PropertySet set(tables.ConfigurationProperties(index));
-    if (!set.Set(name, value))
+    if (!set.Set(name, value, data_->path))
         return false;
     tables.ChangeConfiguration(index, set);
     return true;
@@ -233,7 +233,7 @@ bool DocumentBuilder::DeleteConfigurationProperty(const QString& configuration,
     const int index = data_->NeedConfiguration(configuration);
     DocumentPart& tables = data_->Content().Tables();
     PropertySet set(tables.ConfigurationProperties(index));
-    const bool isThere = set.Delete(name);
+    const bool isThere = set.Delete(name, data_->path);
     tables.ChangeConfiguration(index, set);
     return isThere;
 }

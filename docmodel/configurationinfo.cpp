@@ -39,11 +39,11 @@ CustomProperty ConfigurationInfo::GetCustomProperty(int index) {
 }
 
 bool ConfigurationInfo::SetCustomProperty(const QString& name, const QVariant& value) {
-    return Bound().Set(name, value);
+    return Bound().Set(name, value, path_.given);
 }
 
 bool ConfigurationInfo::DeleteCustomProperty(const QString& name) {
-    return Bound().Delete(name);
+    return Bound().Delete(name, path_.given);
 }
 
 QByteArray ConfigurationInfo::GetStamp(PropertyGroup group) {

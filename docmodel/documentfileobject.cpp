@@ -202,10 +202,10 @@ int DocumentFileObject::DeleteConfiguration(int id, int mode) {
 
 std::unique_ptr<DocumentInfo> DocumentFileObject::GetCustomProperties(int which) {
     const State& state = Bound();
-    const QList<StoredConfiguration> rows = state.part.Configurations();
-    if (which < 0 || which >= rows.size())
+    const std::optional<StoredConfiguration> row = state.part.Configuration(which);
+    if (!row)
         return nullptr;
-    return std::make_unique<ConfigurationInfo>(path_, rows[which],
+    return std::make_unique<ConfigurationInfo>(path_, *row,
                                                state.part.ConfigurationProperties(which));
 }
 

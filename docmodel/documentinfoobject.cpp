@@ -126,11 +126,11 @@ CustomProperty DocumentInfoObject::GetCustomProperty(int index) {
 }
 
 bool DocumentInfoObject::SetCustomProperty(const QString& name, const QVariant& value) {
-    return Bound().custom.Set(name, value);
+    return Bound().custom.Set(name, value, path_.given);
 }
 
 bool DocumentInfoObject::DeleteCustomProperty(const QString& name) {
-    return Bound().custom.Delete(name);
+    return Bound().custom.Delete(name, path_.given);
 }
 
 void DocumentInfoObject::ApplyLock(DocumentPart& tables) const {

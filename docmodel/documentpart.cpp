@@ -197,10 +197,18 @@ QList<StoredExternal> DocumentPart::Externals() const {
 
 QList<StoredConfiguration> DocumentPart::Configurations() const {
     QList<StoredConfiguration> rows;
-    ForEachRow("configurations", "configuration", [&](pugi::xml_node row, int) {
-        rows.append({Number(row, "id", 0, 0), AttributeOf(row, "name"), Number(row, "type", 0, 0)});
-    });
+    ForEachRow("configurations", "configuration",
+               [&](pugi::xml_node row, int) { rows.append(ConfigurationOf(row)); });
     return rows;
+}
+
+StoredConfiguration DocumentPart::ConfigurationOf(pugi::xml_node row) const {
+    return {Number(row, "id", 0, 0), AttributeOf(row, "name"), Number(row, "type", 0, 0)};
+}
+
+std::optional<StoredConfiguration> DocumentPart::Configuration(int index) const {
+    const pugi::xml_node row = ConfigurationElement(index);
+    return row ? std::optional(ConfigurationOf(row)) : std::nullopt;
 }
 
 QList<StoredHyperlink> DocumentPart::Hyperlinks() const {
@@ -211,12 +219,12 @@ QList<StoredHyperlink> DocumentPart::Hyperlinks() const {
 }
 
 pugi::xml_node DocumentPart::ConfigurationElement(int index) const {
-    pugi::xml_node found;
-    ForEachRow("configurations", "configuration", [&](pugi::xml_node row, int position) {
-        if (position == index)
-            found = row;
-    });
-    return found;
+    if (!isCurrent_ || index < 0)
+        return {};
+    for (const pugi::xml_node node : TableElement("configurations"))
+        if (Is(node, "configuration") && index-- == 0)
+            return node;
+    return {};
 }
 
 QList<CustomProperty> DocumentPart::ConfigurationProperties(int index) const {

@@ -61,6 +61,7 @@ public:
     QList<StoredComponent> Components() const;
     QList<StoredExternal> Externals() const;
     QList<StoredConfiguration> Configurations() const;
+    std::optional<StoredConfiguration> Configuration(int index) const;  // none: there is no such
     QList<StoredHyperlink> Hyperlinks() const;
     // Of the configuration at `index`.
     QList<CustomProperty> ConfigurationProperties(int index) const;
@@ -90,6 +91,7 @@ private:
     pugi::xml_node AddTo(const char* table, const char* row);
     pugi::xml_node Append(pugi::xml_node parent, const char* name);
     pugi::xml_node ConfigurationElement(int index) const;
+    StoredConfiguration ConfigurationOf(pugi::xml_node row) const;
     // Calls `visit(node, index)` for each row, in order.
     template <typename Visit>
     void ForEachRow(const char* table, const char* row, Visit visit) const;

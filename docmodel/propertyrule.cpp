@@ -33,6 +33,26 @@ std::optional<double> NumberIn(const PropertyValue& property) {
     return std::nullopt;
 }
 
+// Reading a date takes longer than reading a document, so most texts are told from dates before: a
+// date has two numbers at least, and the first three are no longer than a year.
+bool MayBeDate(QStringView text) {
+    constexpr int kYearDigits = 4;
+    int numbers = 0;
+    int digits = 0;
+    for (const QChar character : text) {
+        digits = character.isDigit() ? digits + 1 : 0;
+        numbers += digits == 1 ? 1 : 0;
+        if (digits > kYearDigits && numbers <= 3)
+            return false;
+    }
+    return numbers >= 2;
+}
+
+QDateTime ToTheSecond(const QDateTime& time) {
+    const QDateTime local = time.toLocalTime();
+    return local.addMSecs(-local.time().msec());
+}
+
 template <typename Value>
 int Compare(const Value& one, const Value& other) {
     return one < other ? -1 : other < one ? 1 : 0;
@@ -47,6 +67,7 @@ PropertyRule::PropertyRule(int operatorCode, const QVariant& value, docbench::Qu
             text_ = value.toString();
             kind_ = text_.isEmpty() ? Kind::Nothing : Kind::Text;
             number_ = NumberInText(text_);
+            date_ = docbench::DateFromLocal(text_).value_or(QDateTime());
             break;
         case QMetaType::QDateTime:
             date_ = value.toDateTime().toLocalTime();
@@ -134,7 +155,7 @@ bool PropertyRule::IsSameText(const PropertyValue& property) const {
         case kNumber:
             return number_ == property.value.toDouble();
         case kDate:
-            return SameText(docbench::DateToLocal(property.value.toDateTime()), text_);
+            return date_.isValid() && date_ == ToTheSecond(property.value.toDateTime());
         case kYesNo:
             return SameText(WordFor(property.value.toBool()), text_);
     }
@@ -192,9 +213,7 @@ std::optional<QDateTime> PropertyRule::DateIn(const PropertyValue& property) con
     if (property.type == kDate)
         return property.value.toDateTime().toLocalTime();
     const QString text = property.type == kText ? property.value.toString() : QString();
-    const bool hasDigit =
-        std::any_of(text.begin(), text.end(), [](QChar character) { return character.isDigit(); });
-    if (!hasDigit || text.size() > kLongestDate)
+    if (text.size() > kLongestDate || !MayBeDate(text))
         return std::nullopt;
     const auto known = datesOfTexts_.constFind(text);
     if (known != datesOfTexts_.constEnd())

@@ -53,7 +53,7 @@ private:
     Kind kind_ = Kind::Nothing;
     QString text_;
     std::optional<double> number_;  // also of a text that reads as one
-    QDateTime date_;
+    QDateTime date_;                // the same
     bool isYes_ = false;
     // Texts that were read as dates: reading one takes longer than reading a document.
     mutable QHash<QString, std::optional<QDateTime>> datesOfTexts_;

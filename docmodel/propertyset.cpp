@@ -1,6 +1,9 @@
 #include "docmodel/propertyset.h"
 
 #include <algorithm>
+#include <functional>
+
+#include "docmodel/packageerror.h"
 
 namespace docmodel {
 
@@ -35,13 +38,29 @@ bool PropertySet::Holds(const QString& name, const PropertyValue& value) const {
     });
 }
 
-bool PropertySet::Set(const QString& name, const QVariant& value) {
+// Packages of others may have a name twice: an edit could hit the wrong one.
+void PropertySet::RequireOneMeaning(const QString& name, const QString& file) const {
+    const auto count = [&](auto same) {
+        return std::count_if(current_.begin(), current_.end(),
+                             [&](const CustomProperty& one) { return same(one.name, name); });
+    };
+    const qsizetype exact = count(std::equal_to<QString>());
+    if (exact > 1 || (exact == 0 && count(SameName) > 1))
+        throw FailedError(file, QStringLiteral("changed"),
+                          QStringLiteral("it has several properties that the name \"%1\" can stand "
+                                         "for, and the change could hit the wrong one. Change them "
+                                         "in the program that made the document")
+                              .arg(name));
+}
+
+bool PropertySet::Set(const QString& name, const QVariant& value, const QString& file) {
     const std::optional<PropertyValue> stored = PropertyValueFor(value);
     if (name.isEmpty() || !IsXmlText(name) || !stored)
         return false;
-    // Packages of others may have a name twice: either value, given back, is no edit.
+    // Of a name that is there twice, either value, given back, is no edit.
     if (Holds(name, *stored))
         return true;
+    RequireOneMeaning(name, file);
     const qsizetype index = Find(name);
     if (index < 0) {
         current_.append({name, stored->value, stored->type});
@@ -55,7 +74,8 @@ bool PropertySet::Set(const QString& name, const QVariant& value) {
     return true;
 }
 
-bool PropertySet::Delete(const QString& name) {
+bool PropertySet::Delete(const QString& name, const QString& file) {
+    RequireOneMeaning(name, file);
     const qsizetype index = Find(name);
     if (index < 0)
         return false;

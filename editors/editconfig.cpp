@@ -3,6 +3,7 @@
 #include <QMenu>
 
 #include "editors/configurationtree.h"
+#include "editors/pendinguploads.h"
 #include "frame/desccontrol.h"
 #include "services/dialogs.h"
 #include "services/docaccess.h"
@@ -89,12 +90,8 @@ void editConfig::ConnectControls() {
     connect(ui_->tvwconfig, &EditTree::DeletePressed, this, &editConfig::ToggleDeletion);
     connect(ui_->tvwconfig, &EditTree::MenuRequested, this, &editConfig::ShowMenu);
     connect(ui_->ecSave, &QPushButton::clicked, this, &editConfig::Save);
-    connect(ui_->ecReset, &QPushButton::clicked, this, [this] {
-        const bool pending = uploadPending_;  // what is saved is still to be uploaded
-        SetPartName(partDisplayName, partfilename);
-        uploadPending_ = pending;
-        UpdateButtons();
-    });
+    connect(ui_->ecReset, &QPushButton::clicked, this,
+            [this] { SetPartName(partDisplayName, partfilename); });
 }
 
 QString editConfig::HelpTopic() const {
@@ -112,16 +109,16 @@ void editConfig::Enable(bool enabled) {
 
 void editConfig::UpdateButtons() {
     const bool pending = configurations_->PendingChanges() > 0;
-    ui_->ecSave->setEnabled(pending || uploadPending_);
+    ui_->ecSave->setEnabled(pending || IsUploadPending(partfilename));
     ui_->ecReset->setEnabled(pending);
 }
 
 void editConfig::SetPartName(const QString& displayName, const QString& path) {
     configurations_->Clear();
-    uploadPending_ = false;
-    UpdateButtons();
+    ForgetGivenUpCopies();
     partDisplayName = displayName;
     partfilename = path;
+    UpdateButtons();
     if (path.isEmpty())
         return;
     ErrorState errors;
@@ -191,8 +188,6 @@ void editConfig::Save() {
         return Warn(Format(Text::ConfigurationSaveError, errors.Description()));
     }
     SetPartName(partDisplayName, partfilename);
-    uploadPending_ = !uploaded;
-    UpdateButtons();
     SetStatusText(uploaded ? Tr(Text::ConfigurationsSaved) : Tr(Text::ConfigurationsNotSaved));
 }
 
@@ -208,7 +203,7 @@ bool editConfig::Write() {
         WriteConfigurations(*newest, edits);
         newest->Save();
     }
-    return (edits.isEmpty() && !uploadPending_) || UploadIfWeb(url);
+    return (edits.isEmpty() && !IsUploadPending(partfilename)) || UploadSaved(partfilename, url);
 }
 
 }  // namespace docbench

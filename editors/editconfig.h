@@ -62,7 +62,6 @@ private:
     std::unique_ptr<DocumentFile> configDocument;
     int configCount = 0;
     QString localPath;
-    bool uploadPending_ = false;  // saved, but the server has not taken it
     bool showDesc_ = true;
 };
 

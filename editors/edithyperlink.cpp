@@ -1,6 +1,7 @@
 #include "editors/edithyperlink.h"
 
 #include "editors/hyperlinktree.h"
+#include "editors/pendinguploads.h"
 #include "frame/desccontrol.h"
 #include "services/dialogs.h"
 #include "services/docaccess.h"
@@ -58,12 +59,8 @@ void EditHyperLink::ConnectControls() {
     });
     connect(ui_->tvwhlink, &EditTree::Opened, this, &EditHyperLink::OpenTarget);
     connect(ui_->ecSave, &QPushButton::clicked, this, &EditHyperLink::Save);
-    connect(ui_->ecReset, &QPushButton::clicked, this, [this] {
-        const bool pending = uploadPending_;  // what is saved is still to be uploaded
-        SetPartName(partDisplayName, partfilename);
-        uploadPending_ = pending;
-        UpdateButtons();
-    });
+    connect(ui_->ecReset, &QPushButton::clicked, this,
+            [this] { SetPartName(partDisplayName, partfilename); });
 }
 
 QString EditHyperLink::HelpTopic() const {
@@ -81,16 +78,16 @@ void EditHyperLink::Enable(bool enabled) {
 
 void EditHyperLink::UpdateButtons() {
     const bool pending = hyperlinks_->PendingChanges() > 0;
-    ui_->ecSave->setEnabled(pending || uploadPending_);
+    ui_->ecSave->setEnabled(pending || IsUploadPending(partfilename));
     ui_->ecReset->setEnabled(pending);
 }
 
 void EditHyperLink::SetPartName(const QString& displayName, const QString& path) {
     hyperlinks_->Clear();
-    uploadPending_ = false;
-    UpdateButtons();
+    ForgetGivenUpCopies();
     partDisplayName = displayName;
     partfilename = path;
+    UpdateButtons();
     if (path.isEmpty())
         return;
     ErrorState errors;
@@ -134,8 +131,6 @@ void EditHyperLink::Save() {
         return Warn(Format(Text::HyperlinkSaveError, errors.Description()));
     }
     SetPartName(partDisplayName, partfilename);
-    uploadPending_ = !uploaded;
-    UpdateButtons();
     SetStatusText(uploaded ? Tr(Text::HyperlinksSaved) : Tr(Text::HyperlinksNotSaved));
 }
 
@@ -153,7 +148,7 @@ bool EditHyperLink::Write() {
     const bool changed = hyperlinks_->Write(*newest);
     if (changed)
         newest->SaveHyperlinks();
-    return (!changed && !uploadPending_) || UploadIfWeb(url);
+    return (!changed && !IsUploadPending(partfilename)) || UploadSaved(partfilename, url);
 }
 
 }  // namespace docbench

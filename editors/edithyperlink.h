@@ -52,7 +52,6 @@ private:
     // As it was loaded: what differs on the disk is somebody else's work.
     std::unique_ptr<DocumentFile> hyperlinkDocument;
     int hyperlinkCount = 0;
-    bool uploadPending_ = false;  // saved, but the server has not taken it
     bool showDesc_ = true;
 };
 

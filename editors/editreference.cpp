@@ -1,6 +1,7 @@
 #include "editors/editreference.h"
 
 #include <QHeaderView>
+#include <QPointer>
 #include <algorithm>
 
 #include "editors/referencelist.h"
@@ -125,8 +126,12 @@ void editReference::OpenSelected() {
 }
 
 void editReference::ExportRows() {
+    const QPointer<editReference> alive(this);
     QString where;
-    SetStatusText(ExportList(*ui_->lv, where));
+    const QString told = ExportList(*ui_->lv, where);
+    if (!alive)
+        return;  // behind the box of an export that failed
+    SetStatusText(told);
     ui_->lblProgress->setText(where);
 }
 

@@ -3,6 +3,7 @@
 #include <QSignalBlocker>
 #include <limits>
 
+#include "editors/pendinguploads.h"
 #include "editors/propertyrows.h"
 #include "frame/desccontrol.h"
 #include "services/dialogs.h"
@@ -176,6 +177,7 @@ void PropertiesBox::populateSummary(const QString& path) {
 }
 
 void PropertiesBox::Load(const QString& path) {
+    ForgetGivenUpCopies();
     partfilename = path;
     Blank();
     const auto info = Documents().MakeDocumentInfo();
@@ -184,11 +186,12 @@ void PropertiesBox::Load(const QString& path) {
         return SetStatusText(Format(Text::NoPropertiesOf, path));
     }
     FillSummary(*info);
-    LoadPropertyRows(ui_->customSet->List(), *info);
+    ui_->customSet->Load(*info, path);
     customStamp_ = info->GetStamp(PropertyGroup::Custom);
-    ui_->customSet->FitColumns();
     ListConfigurations();
     populated = true;
+    if (IsUploadPending(path))
+        EnableButtons();
     SetStatusText(Format(Text::PropertiesOf, path));
 }
 
@@ -277,11 +280,11 @@ bool PropertiesBox::LeaveConfiguration() {
         configDirty = false;
         return true;
     }
-    bool written = false;
     ErrorState errors;
-    if (!errors.Run([&] { written = WriteConfiguration(currentConfiguration); }))
-        Warn(Format(Text::PropertiesWriteError, errors.Description()));
-    return written;
+    if (errors.Run([this] { WriteConfiguration(currentConfiguration); }))
+        return true;
+    Warn(Format(Text::PropertiesWriteError, errors.Description()));
+    return false;
 }
 
 // The set of a configuration by its position; null when it has none. Raises when another one
@@ -301,12 +304,11 @@ void PropertiesBox::ShowConfiguration(int index) {
     const auto set = OpenConfiguration(index);
     if (!set)
         return Warn(Tr(Text::NoConfigurationProperties));
-    LoadPropertyRows(ui_->configSet->List(), *set);
+    ui_->configSet->Load(*set, partfilename);
     configStamp_ = set->GetStamp(PropertyGroup::Custom);
     configDirty = false;
     deletedConfigNames.clear();
     ui_->configSet->ClearInput();
-    ui_->configSet->FitColumns();
     ui_->configSet->setEnabled(true);
 }
 
@@ -324,6 +326,8 @@ void PropertiesBox::WriteEdits() {
         return;
     if (summaryDirty || customDirty)
         WriteDocument();
+    else if (IsUploadPending(partfilename))
+        Upload();
 }
 
 // The flags are cleared when all is on the disk, so that whatever fails can be tried again. False
@@ -339,10 +343,8 @@ bool PropertiesBox::WriteConfiguration(int index) {
     set->Save();
     configStamp_ = set->GetStamp(PropertyGroup::Custom);
     deletedConfigNames.clear();
-    if (!UploadIfWeb(partfilename))
-        return false;
     configDirty = false;
-    return true;
+    return Upload();
 }
 
 void PropertiesBox::WriteDocument() {
@@ -360,10 +362,14 @@ void PropertiesBox::WriteDocument() {
         WriteProperties(ui_->customSet->List(), *info, deletedCustomNames);
     info->Save();
     TakeAsRead(*info, HasEdits(typed));
-    if (!UploadIfWeb(partfilename))
-        return;
     summaryDirty = customDirty = false;
+    Upload();
     ShowLastSave(*info);
+}
+
+// False when the server has not taken what is saved. Raises when its local copy was given up since.
+bool PropertiesBox::Upload() {
+    return UploadSaved(partfilename, UrlToUpload(partfilename, gWebCopies.value(partfilename)));
 }
 
 // What was not written keeps its stamp: the pane still shows it as it was read.
@@ -400,8 +406,12 @@ QString PropertiesBox::TextOf(SummaryField field) const {
         case SummaryField::Comments:
             break;
     }
-    // Not as plain text, which would turn every no-break space into a common one.
-    return ui_->Summary_6->document()->toRawText().replace(QChar::ParagraphSeparator, u'\n');
+    // Not as plain text, which would turn every no-break space into a common one. Shift+Enter makes
+    // a line separator, which is a line's end like any other.
+    return ui_->Summary_6->document()
+        ->toRawText()
+        .replace(QChar::ParagraphSeparator, u'\n')
+        .replace(QChar::LineSeparator, u'\n');
 }
 
 }  // namespace docbench

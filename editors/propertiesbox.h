@@ -63,6 +63,7 @@ private:
     bool WriteConfiguration(int index);
     void WriteDocument();
     void TakeAsRead(DocumentInfo& saved, bool summaryTyped);
+    bool Upload();
     SummaryEdits TypedSummary() const;
     QString TextOf(SummaryField field) const;
 

@@ -87,6 +87,22 @@ void LoadPropertyRows(CellList& list, DocumentInfo& set) {
     list.Append(std::move(rows));
 }
 
+QStringList PropertyNames(DocumentInfo& set) {
+    QStringList names;
+    const int count = set.GetCustomCount();
+    for (int index = 0; index < count; ++index)
+        names.append(set.GetCustomProperty(index).name);
+    return names;
+}
+
+bool IsAmbiguous(const QStringList& names, const QString& name) {
+    const qsizetype exact = names.count(name);
+    const qsizetype same = std::count_if(names.begin(), names.end(), [&](const QString& other) {
+        return other.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    return exact > 1 || (exact == 0 && same > 1);
+}
+
 int FindProperty(const CellList& list, const QString& name) {
     int found = -1;
     for (int row = 0; row < list.Count(); ++row) {

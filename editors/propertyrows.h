@@ -28,6 +28,13 @@ PropertyType TypeOfLabel(const QString& label);  // text for one that is no type
 // Replaces the rows by the properties of a set; those without a name or a value are left out.
 void LoadPropertyRows(CellList& list, DocumentInfo& set);
 
+// Of all properties, in their order.
+QStringList PropertyNames(DocumentInfo& set);
+
+// Whether several of the names answer to `name` equally well, as only documents of others have
+// them: an exact one goes before one in another case of letters.
+bool IsAmbiguous(const QStringList& names, const QString& name);
+
 // The row of a name, which is the same in any case of letters, or -1. An exact one goes first.
 int FindProperty(const CellList& list, const QString& name);
 

@@ -38,7 +38,7 @@ PropertySetBox::PropertySetBox(QWidget* parent)
     ui_->Name1->setCompleter(nullptr);  // what is typed stays what it is
     ui_->Name1->lineEdit()->setMaxLength(kNoLimit);
     ui_->Name1->setValidator(new QRegularExpressionValidator(
-        QRegularExpression(QStringLiteral("[^\\x00-\\x1F]*")), ui_->Name1));
+        QRegularExpression(QStringLiteral("[^\\x00-\\x1F\\x{FFFE}\\x{FFFF}]*")), ui_->Name1));
     ui_->type1->addItems(PropertyTypeLabels());
     ui_->Value1->setMaxLength(kNoLimit);
     SetCaptions();
@@ -85,7 +85,10 @@ CellList& PropertySetBox::List() {
     return ui_->lv1->List();
 }
 
-void PropertySetBox::FitColumns() {
+void PropertySetBox::Load(DocumentInfo& set, const QString& document) {
+    LoadPropertyRows(List(), set);
+    stored_ = PropertyNames(set);
+    document_ = document;
     ui_->lv1->FitColumns();
 }
 
@@ -154,10 +157,27 @@ void PropertySetBox::ClearInput() {
     ShowValueOf(kTextProperty);
 }
 
+// Tells the user why, if not.
+bool PropertySetBox::CanEdit(const QString& name) const {
+    if (!IsAmbiguous(stored_, name))
+        return true;
+    const QString reason =
+        QStringLiteral(
+            "The document %1 has several properties that the name \"%2\" can stand for, "
+            "and the change could hit the wrong one. Change them in the program that "
+            "made the document.")
+            .arg(document_, name);
+    gSeams.dialogs->Box(Format(Text::PropertiesWriteError, reason), Dialogs::Icon::Exclamation,
+                        gAppTitle);
+    return false;
+}
+
 void PropertySetBox::Add() {
     const QString name = ui_->Name1->currentText();
     if (name.isEmpty())
         return FocusName();
+    if (!CanEdit(name))
+        return;
     if (!FitsType(ui_->Value1->text(), Type())) {
         gSeams.dialogs->Box(Tr(Text::ValueOfOtherType), Dialogs::Icon::Exclamation, gAppTitle);
         ui_->Value1->setFocus();
@@ -174,7 +194,7 @@ void PropertySetBox::Add() {
 
 void PropertySetBox::Remove() {
     const int row = FindProperty(List(), ui_->Name1->currentText());
-    if (row < 0)
+    if (row < 0 || !CanEdit(ui_->Name1->currentText()))
         return;
     const QString name = List().At(row).cells[kPropertyName].text;
     List().Remove(row);

@@ -23,8 +23,9 @@ public:
     // Gives the controls the names that they have as members of control arrays, such as "lv1(2)".
     void SetIndex(int index);
     CellList& List();
+    // Lists the properties of a set; `document` names it in error texts.
+    void Load(DocumentInfo& set, const QString& document);
     void ClearInput();  // the fields for one property
-    void FitColumns();
     void FocusName();
 
 Q_SIGNALS:
@@ -42,10 +43,13 @@ private:
     void ShowValueOf(PropertyType type);
     bool HasValue() const;
     PropertyType Type() const;
+    bool CanEdit(const QString& name) const;
     void Add();
     void Remove();
 
     std::unique_ptr<Ui::PropertySetBox> ui_;
+    QString document_;
+    QStringList stored_;  // the names in the document, those that are not listed among them
 };
 
 }  // namespace docbench

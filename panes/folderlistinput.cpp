@@ -96,10 +96,11 @@ void FolderListInput::ToggleList() {
 }
 
 void FolderListInput::Browse() {
+    const QPointer<FolderListInput> alive(this);
     const QString folder = browseTitle_.isEmpty()
                                ? BrowseForFolder(QString(), Tr(Text::LookInWhat))
                                : gSeams.dialogs->BrowseFolder(browseTitle_, QString());
-    if (!folder.isEmpty())
+    if (alive && !folder.isEmpty())
         Append(folder);
 }
 

@@ -79,8 +79,10 @@ QStringList DocumentSearch::SearchFolder(const QString& folder) {
         return {};
     visited_.insert(canonical);
     calls_.entering(folder);
-    if (!place.isReadable())
+    if (!place.isReadable()) {
         ++unlisted_;
+        TellProgress();
+    }
     const Listing listing = List(folder);
     QStringList below;
     if (!SearchFiles(folder, listing.files) || !calls_.descends())
@@ -107,10 +109,14 @@ bool DocumentSearch::SearchFiles(const QString& folder, const QStringList& names
             ++found_;
             calls_.found(path);
         }
-        const SearchCounts counts = query_.GetSearchCounts();
-        calls_.progress({counts.documents, counts.unread + unlisted_});
+        TellProgress();
     }
     return true;
+}
+
+void DocumentSearch::TellProgress() {
+    const SearchCounts counts = query_.GetSearchCounts();
+    calls_.progress({counts.documents, counts.unread + unlisted_});
 }
 
 void DocumentSearch::Announce(const QString& folder, const QStringList& names) {

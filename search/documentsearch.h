@@ -39,6 +39,7 @@ private:
     void SearchTree(const QString& folder);
     QStringList SearchFolder(const QString& folder);  // gives the subfolders to go into
     bool SearchFiles(const QString& folder, const QStringList& names);  // false when stopped
+    void TellProgress();
     void Announce(const QString& folder, const QStringList& names);
     bool IsCandidate(const QString& name, const QString& path) const;
 

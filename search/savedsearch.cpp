@@ -89,7 +89,9 @@ void WriteSavedSearch(const QString& path, const CellList& rules) {
         bytes += LineOf(rule).toUtf8() + '\n';
     QSaveFile file(path);
     file.setDirectWriteFallback(true);  // a folder may take no new files
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+    // What is left in the buffer is written by the commit, which does not tell when that fails.
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||
+        !file.commit())
         Raise(QStringLiteral("The saved search %1 can't be written: %2. Choose another folder or "
                              "name."),
               path, file.errorString());
@@ -107,6 +109,8 @@ void ReadSavedSearch(const QString& path, const QStringList& operators, CellList
     const qint64 length = file.read(bytes.data(), bytes.size());
     bytes.truncate(std::clamp<qint64>(length, 0, kMostBytes));
     const bool isWhole = length >= 0 && length <= kMostBytes && file.error() == QFile::NoError;
+    if (!isWhole)
+        bytes.truncate(bytes.lastIndexOf('\n') + 1);  // half a line may look like another rule
     rules.Append(RulesIn(TextOf(bytes, isWhole), operators));
     if (length > kMostBytes)
         fail(QStringLiteral("it is larger than %1 bytes").arg(kMostBytes));

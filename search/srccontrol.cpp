@@ -4,6 +4,8 @@
 #include <QFileInfo>
 #include <QFocusEvent>
 #include <QGuiApplication>
+#include <QPointer>
+#include <QRegularExpression>
 #include <QSignalBlocker>
 #include <algorithm>
 
@@ -45,6 +47,13 @@ void ShowWaitPointer(bool waits) {
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     else
         QGuiApplication::restoreOverrideCursor();
+}
+
+// A field takes line ends with what is pasted into it, and shows them as blanks; no property has
+// them, and a saved search has one rule a line.
+QString OneLine(const QString& text) {
+    static const QRegularExpression ends(QStringLiteral("[\\r\\n\\x{2028}\\x{2029}]+"));
+    return text.split(ends, Qt::SkipEmptyParts).join(u' ');
 }
 
 }  // namespace
@@ -253,13 +262,15 @@ void srcControl::EnableAdd() {
 // --- The list of rules
 
 void srcControl::AddRule() {
-    if (ui_->srcName->currentText().isEmpty() || ui_->srcValue->text().isEmpty())
+    const QString name = OneLine(ui_->srcName->currentText());
+    const QString value = OneLine(ui_->srcValue->text());
+    if (name.isEmpty() || value.isEmpty())
         return;
     const int code = ui_->srcOP->currentIndex();
     const bool hasValue = code != kIsYes && code != kIsNo;
     ui_->searchlist->List().Append(MakeRule(ui_->srcOR->isChecked() ? Tr(Text::RuleOr) : QString(),
-                                            ui_->srcName->currentText(), ui_->srcOP->currentText(),
-                                            hasValue ? ui_->srcValue->text() : QString(), code));
+                                            name, ui_->srcOP->currentText(),
+                                            hasValue ? value : QString(), code));
     UpdateStartEnabled();
     ui_->srcSave->setEnabled(true);
 }
@@ -447,8 +458,12 @@ void srcControl::OpenSelected() {
 }
 
 void srcControl::ExportRows() {
+    const QPointer<srcControl> alive(this);
     QString where;
-    SetStatusText(ExportList(*ui_->srcResultlist, where));
+    const QString told = ExportList(*ui_->srcResultlist, where);
+    if (!alive)
+        return;  // behind the box of an export that failed
+    SetStatusText(told);
     ui_->srcProgress->setText(where);
 }
 

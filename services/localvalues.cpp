@@ -3,6 +3,8 @@
 #include <QLocale>
 #include <QStringList>
 #include <cmath>
+#include <map>
+#include <tuple>
 
 namespace docbench {
 namespace {
@@ -83,6 +85,23 @@ QString ShownTimeFormat(const QLocale& locale, const QTime& time) {
     return time.second() == 0 ? format : WithSeconds(format);
 }
 
+// Whether a text reads back as the date that it was made from. Not every locale reads the digits,
+// the names of months and the words for halves of the day that it writes. Trying it takes far
+// longer than writing, so each shape of text is tried once: its outcome depends on nothing else.
+bool ReadsBack(const QString& shown, const QDateTime& date, const QLocale& locale) {
+    const int year = date.date().year();
+    if (year < 1000 || year > 9999 || locale.zeroDigit() != QLatin1String("0"))
+        return DateFromLocal(shown) == date;
+    const QTime time = date.time();
+    const int hour = date == date.date().startOfDay() ? -1 : time.hour();
+    const std::tuple key(locale.name(), date.date().month(), hour, time.second() != 0);
+    thread_local std::map<std::tuple<QString, int, int, bool>, bool> outcomes;
+    const auto known = outcomes.find(key);
+    return known != outcomes.end()
+               ? known->second
+               : outcomes.emplace(key, DateFromLocal(shown) == date).first->second;
+}
+
 // Locales written from right to left have marks of direction in their numbers, which are written
 // but not read.
 QString WithoutMarks(QString text) {
@@ -122,8 +141,7 @@ QString DateToLocal(const QDateTime& date) {
     QString shown = locale.toString(local.date(), DateFormat(locale));
     if (!isDay)
         shown += u' ' + locale.toString(local.time(), ShownTimeFormat(locale, local.time()));
-    // Not every locale reads the digits and the words for halves of the day that it writes.
-    if (DateFromLocal(shown) == local)
+    if (ReadsBack(shown, local, locale))
         return shown;
     return isDay ? local.date().toString(Qt::ISODate)
                  : local.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QPointer>
 
 #include "frame/desccontrol.h"
 #include "panes/celllistview.h"
@@ -352,8 +353,12 @@ void whereUsed::OpenSelected() {
 }
 
 void whereUsed::ExportRows() {
+    const QPointer<whereUsed> alive(this);
     QString where;
-    SetStatusText(ExportList(*ui_->whereList, where));
+    const QString told = ExportList(*ui_->whereList, where);
+    if (!alive)
+        return;  // behind the box of an export that failed
+    SetStatusText(told);
     ui_->wuProgress->setText(where);
 }
 

@@ -206,6 +206,34 @@ private Q_SLOTS:
         QVERIFY(OpenInfo(path_)->DeleteCustomProperty("weight"));
     }
 
+    // As packages of others may have them: the exact one goes first, and what could hit either is
+    // refused.
+    void AnEditOfANameThatIsThereTwiceIsRefused() {
+        const auto property = [](const QByteArray& name, const QByteArray& value) {
+            return "<property name='" + name + "' type='text'>" + value + "</property>";
+        };
+        const QByteArray twins =
+            property("a", "1") + property("a", "2") + property("b", "1") + property("B", "2");
+        WriteTables(path_, Tables("<configurations><configuration id='1' name='Short'>" + twins +
+                                  "</configuration></configurations>"));
+        const auto set = OpenFile(path_)->GetCustomProperties(0);
+        for (const char* name : {"a", "A"}) {
+            QVERIFY(ErrorOf([&] { set->SetCustomProperty(name, "3"); }).contains(path_));
+            QVERIFY(ErrorOf([&] { set->DeleteCustomProperty(name); }).contains(path_));
+        }
+        QVERIFY(set->SetCustomProperty("a", "1"));  // given back
+        QVERIFY(set->SetCustomProperty("a", "2"));
+        QVERIFY(set->SetCustomProperty("B", "3"));
+        set->Save();
+        const QByteArray part = PartOf(path_, kDocumentPart);
+        QVERIFY(part.contains("\"B\" type=\"text\">3<"));
+        const auto saved = OpenFile(path_)->GetCustomProperties(0);
+        QStringList values;
+        for (int index = 0; index < saved->GetCustomCount(); ++index)
+            values.append(saved->GetCustomProperty(index).value.toString());
+        QCOMPARE(values, QStringList({"1", "2", "1", "3"}));
+    }
+
     void APropertyThatIsDeletedAndSetAgainComesLast() {
         const auto info = OpenInfo(path_);
         for (const char* name : {"a", "b", "c"})

@@ -120,6 +120,22 @@ private Q_SLOTS:
              {"01001000000", "01001000000", "01001000000", "01001000000", "01001000000",
               "10010010100", "01001110000", "01001110000", "01001000000", "01001000000",
               "00000000000", "00000000000"}},
+            // No yes, though it reads like one.
+            {"text Yes",
+             "Yes",
+             {"01001000000", "01001000000", "01001000000", "01001000000", "01001000000",
+              "01001000000", "01001000000", "01001000000", "01001000000", "01001000000",
+              "00000000000", "00000000000"}},
+            {"text 2004-05-31 14:05",
+             "2004-05-31 14:05",
+             {"01001000000", "01001000000", "01001000000", "01001000000", "01001000000",
+              "10010010100", "01001110000", "10010010100", "01001000000", "01001000000",
+              "00000000000", "00000000000"}},
+            {"text 5/31/2004 2:05 PM",
+             "5/31/2004 2:05 PM",
+             {"01001000000", "01001000000", "01001000000", "01001000000", "01001000000",
+              "10010010100", "01001110000", "10010010100", "01001000000", "01001000000",
+              "00000000000", "00000000000"}},
             {"number 12",
              12.0,
              {"01001000000", "01001000000", "10110000000", "10010010100", "01001110000",
@@ -161,6 +177,49 @@ private Q_SLOTS:
         for (int code = 0; code < kOperators; ++code)
             given += Holds(path, "P", code, value) ? '1' : '0';
         QCOMPARE(given, answers);
+    }
+
+    // Texts are compared with what the user sees of a property, but for numbers and dates as such.
+    void EveryOperatorLooksAtTextsAsTheUserSeesThem_data() {
+        QTest::addColumn<QVariant>("property");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QString>("answers");
+        const std::vector<const char*> values = {"5/31/2004", "yes", "0.250"};
+        struct Row {
+            const char* name;
+            QVariant property;
+            std::vector<const char*> answers;
+        };
+        const std::vector<Row> rows = {
+            {"day", kDay, {"10110000000", "01001000000", "01001000000"}},
+            {"nine seconds past the minute",
+             kMinute.addSecs(9),
+             {"01101000000", "01001000000", "01001000000"}},
+            {"yes", true, {"01001000010", "10110000010", "01001000010"}},
+            {"no", false, {"01001000001", "01001000001", "01001000001"}},
+            {"a quarter", 0.25, {"01001000000", "01001000000", "10010000000"}},
+        };
+        for (const Row& row : rows)
+            for (size_t i = 0; i < values.size(); ++i)
+                QTest::addRow("%s - %s", row.name, values[i])
+                    << row.property << QVariant(values[i]) << QString(row.answers[i]);
+    }
+    void EveryOperatorLooksAtTextsAsTheUserSeesThem() {
+        EveryKindOfPropertyAnswersEveryOperatorAndValue();
+    }
+
+    void DatesOfTheSummaryAnswerAsThoseOfPropertiesDo() {
+        const QDateTime created = kMinute.addSecs(9);
+        auto document = DocumentBuilder::New(Path("a.tfmprt"), DocumentBuilder::IfThere::Replace);
+        document.SetCreated(created);
+        document.SetCustomProperty("P", created);
+        document.Save();
+        const QVariantList values = {kDay,  kNextDay, kMinute, created,    "2004",
+                                     "pha", 12.0,     true,    QVariant(), "5/31/2004"};
+        for (const QVariant& value : values)
+            for (int code = 0; code < kOperators; ++code)
+                QCOMPARE(Holds(Path("a.tfmprt"), "Created", code, value),
+                         Holds(Path("a.tfmprt"), "P", code, value));
     }
 
     void OperatorsThatThereAreNotMatchNothing() {

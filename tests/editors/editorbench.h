@@ -11,6 +11,7 @@
 #include <QUrl>
 
 #include "docmodel/builder.h"
+#include "docmodel/package.h"
 #include "editors/edittree.h"
 #include "services/language.h"
 #include "services/scratch.h"

@@ -3,13 +3,10 @@
 #include <QAction>
 #include <QFile>
 
-#include "docmodel/package.h"
 #include "editors/editconfig.h"
 #include "services/documentlibrary.h"
-#include "services/webdocument.h"
 #include "tests/editors/editorbench.h"
 #include "tests/support/failingaccess.h"
-#include "tests/support/fakewebclient.h"
 #include "tests/support/filelockholder.h"
 #include "tests/support/testenvironment.h"
 
@@ -42,6 +39,11 @@ struct Bench : EditorBench<editConfig> {
         return names;
     }
     QString Image(int node) { return Node(node).image; }
+    void ChangeElsewhere(const std::function<void(DocumentBuilder&)>& change) {
+        DocumentBuilder document = DocumentBuilder::Edit(pin);
+        change(document);
+        document.Save();
+    }
     // Opens the menu on a node, and gives its entry.
     QAction* Entry(int node, int number) {
         View()->setCurrentIndex(Tree().IndexOf(node));
@@ -328,6 +330,36 @@ private Q_SLOTS:
         QCOMPARE(bench.Stored(), QStringList({"B", "C", "A"}));
     }
 
+    // Each new name is still another one's when its turn comes; what hangs on a configuration stays
+    // with it.
+    void namesMayMoveUpInAChain() {
+        Bench bench;
+        const QString screw = bench.library.Make("screw.tfmprt");
+        bench.pin = bench.library.Make("top.tfmasm", {{screw, 3}}, {{screw, "x"}});
+        bench.Load({"A", "B", "C"});
+        for (const char* name : {"A", "B", "C"})
+            bench.ChangeElsewhere([&](DocumentBuilder& document) {
+                document.SetConfigurationProperty(name, "Was", name);
+            });
+        bench.pane->SetPartName("top", bench.pin);
+        bench.Type(4, "D");
+        bench.Type(3, "C");
+        bench.Type(2, "B");
+        bench.Save();
+        QCOMPARE(bench.Stored(), QStringList({"B", "C", "D"}));
+        const auto file = Documents().MakeDocumentFile();
+        file->Open(bench.pin);
+        for (int index = 0; index < 3; ++index) {
+            const auto set = file->GetCustomProperties(index);
+            QCOMPARE(set->GetCustomCount(), 1);
+            QCOMPARE(set->GetCustomProperty(0).value, QVariant(QString(QChar(u'A' + index))));
+        }
+        QCOMPARE(file->GetComponentCount(), 1);
+        QCOMPARE(file->GetComponent(0, QString()).path, screw);
+        QCOMPARE(file->GetComponent(0, QString()).count, 3);
+        QCOMPARE(file->GetExternalReference(0, QString()).path, screw);
+    }
+
     void aNameOfAnInternalConfigurationIsRefusedAtTheSave() {
         Bench bench;
         bench.Load({"A", "!secret"});
@@ -351,9 +383,9 @@ private Q_SLOTS:
         bench.Load(names);
         for (int node = 2; node <= 1001; ++node) {
             if (node % 2 == 0)
-                bench.View()->DeletePressed(node);
+                bench.PressDelete(node);
             else
-                bench.View()->EditEnded(node, bench.Node(node).text + " new");
+                bench.Type(node, bench.Node(node).text + " new");
         }
         for (int number = 1; number < 1000; number += 2)
             expected.append(names[number] + " new");
@@ -404,6 +436,28 @@ private Q_SLOTS:
         QVERIFY(all >= 6);
     }
 
+    // The save is done then, and nothing is left to be tried again.
+    void aDocumentThatCantBeReadBehindItsSaveIsTold() {
+        Bench bench;
+        bool saved = false;
+        {
+            FailingAccess access([&](const char* operation, const QString&) {
+                if (saved)
+                    throw DocumentError("Gone.");
+                saved = operation == QLatin1String("Save");
+            });
+            bench.Load({"A", "B"});
+            bench.Type(2, "X");
+            bench.dialogs.Expect(Format(Text::ConfigurationLoadError, "Gone."));
+            bench.Save();
+            QVERIFY(bench.dialogs.AllCame());
+            QCOMPARE(bench.Tree().Count(), 0);
+            QVERIFY(!bench.CanSave() && !bench.ResetButton()->isEnabled());
+            bench.pane.reset();  // with the objects of this library
+        }
+        QCOMPARE(bench.Stored(), QStringList({"X", "B"}));
+    }
+
     // What was tried and taken back is not written by a later save.
     void aFailedAttemptLeavesNothingBehind() {
         Bench bench;
@@ -433,12 +487,12 @@ private Q_SLOTS:
             bench.PressDelete(2);
         else
             bench.Type(2, "Mine");
-        DocumentBuilder document = DocumentBuilder::Edit(bench.pin);
-        if (deletes)
-            document.SetConfigurationProperty("A", "Length", 1.0);
-        else
-            document.AddConfiguration("C");
-        document.Save();
+        bench.ChangeElsewhere([&](DocumentBuilder& document) {
+            if (deletes)
+                document.SetConfigurationProperty("A", "Length", 1.0);
+            else
+                document.AddConfiguration("C");
+        });
         const QByteArray before = BytesOf(bench.pin);
         bench.dialogs.Expect(SaveErrorBeginning());
         bench.Save();
@@ -453,9 +507,8 @@ private Q_SLOTS:
         Bench bench;
         bench.Load({"A"});
         bench.Type(2, "Mine");
-        DocumentBuilder document = DocumentBuilder::Edit(bench.pin);
-        document.AddHyperlink("http://server/");
-        document.Save();
+        bench.ChangeElsewhere(
+            [](DocumentBuilder& document) { document.AddHyperlink("http://server/"); });
         bench.Save();
         QCOMPARE(bench.Stored(), QStringList("Mine"));
     }
@@ -475,77 +528,6 @@ private Q_SLOTS:
         QVERIFY(QFile::rename(bench.pin + ".away", bench.pin));
         bench.Save();
         QCOMPARE(bench.Stored(), QStringList("Mine"));
-    }
-
-    void aWebDocumentIsWrittenBack() {
-        Bench bench;
-        bench.Load({"A"});
-        FakeWeb web;
-        const QString url = "http://server/docs/pin.tfmprt";
-        web.server.files[url] = BytesOf(bench.pin);
-        gWebDocument = true;
-        bench.pane->SetPartName("pin", url);
-        bench.Type(2, "Mine");
-        web.server.refusesUploads = true;
-        bench.dialogs.Expect("File save to server failed", Dialogs::Icon::None);
-        bench.Save();
-        QCOMPARE(bench.status.caption, gStrings[96]);
-        QCOMPARE(bench.Texts(), QStringList("Mine"));
-        QVERIFY(bench.CanSave());
-        web.server.refusesUploads = false;
-        bench.Save();
-        QCOMPARE(bench.status.caption, gStrings[97]);
-        QVERIFY(!bench.CanSave());
-        QCOMPARE(web.server.calls, QStringList({"get " + url, "put " + url, "put " + url}));
-        QFile copy(bench.library.Path("copy.tfmprt"));
-        QVERIFY(copy.open(QFile::WriteOnly) && copy.write(web.server.files[url]) > 0);
-        copy.close();
-        bench.pin = copy.fileName();
-        QCOMPARE(bench.Stored(), QStringList("Mine"));
-        gWebDocument = false;
-    }
-
-    void aCopyThatWasGivenUpIsNotWritten() {
-        Bench bench;
-        bench.Load({"A"});
-        FakeWeb web;
-        const QString url = "http://server/docs/pin.tfmprt";
-        web.server.files[url] = BytesOf(bench.pin);
-        gWebDocument = true;
-        bench.pane->SetPartName("pin", url);
-        bench.Type(2, "Mine");
-        const QString copy = gWebCopies.value(url);
-        const QByteArray before = BytesOf(copy);
-        gWebCopies.clear();  // a local document was browsed to
-        bench.dialogs.Expect("*");
-        bench.Save();
-        QVERIFY(bench.dialogs.AllCame());
-        QCOMPARE(bench.Texts(), QStringList("A -> Mine"));  // still to be saved
-        QCOMPARE(BytesOf(copy), before);
-        QCOMPARE(web.server.calls, QStringList("get " + url));
-        gWebDocument = false;
-    }
-
-    void resetKeepsWhatIsStillToBeUploaded() {
-        Bench bench;
-        bench.Load({"A"});
-        FakeWeb web;
-        const QString url = "http://server/docs/pin.tfmprt";
-        web.server.files[url] = BytesOf(bench.pin);
-        gWebDocument = true;
-        bench.pane->SetPartName("pin", url);
-        bench.Type(2, "Mine");
-        web.server.refusesUploads = true;
-        bench.dialogs.Expect("File save to server failed", Dialogs::Icon::None);
-        bench.Save();
-        bench.Type(2, "Other");
-        bench.Child<QPushButton>("ecReset")->click();
-        QCOMPARE(bench.Texts(), QStringList("Mine"));
-        QVERIFY(bench.CanSave());
-        web.server.refusesUploads = false;
-        bench.Save();
-        QCOMPARE(web.server.calls.last(), "put " + url);
-        gWebDocument = false;
     }
 
     void anOpenEditBoxGoesWithThePane() {

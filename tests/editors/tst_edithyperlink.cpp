@@ -2,14 +2,11 @@
 
 #include <QFile>
 
-#include "docmodel/package.h"
 #include "editors/edithyperlink.h"
 #include "services/documentlibrary.h"
-#include "services/webdocument.h"
 #include "tests/editors/editorbench.h"
 #include "tests/support/failingaccess.h"
 #include "tests/support/fakeoutside.h"
-#include "tests/support/fakewebclient.h"
 #include "tests/support/filelockholder.h"
 #include "tests/support/testenvironment.h"
 
@@ -147,6 +144,15 @@ private Q_SLOTS:
         QCOMPARE(bench.Stored(), QStringList({"x -> y", "b", "d"}));
     }
 
+    void ofTwoAlikeTheEditedOneIsWritten() {
+        Bench bench;
+        bench.Load({"a", "a", "a"});
+        bench.Type(3, "b");
+        QCOMPARE(bench.Texts(), QStringList({"a", Pending("a", "b"), "a"}));
+        bench.Save();
+        QCOMPARE(bench.Stored(), QStringList({"a", "b", "a"}));
+    }
+
     void longTextsAreKeptWhole() {
         Bench bench;
         const QString text = QString::fromUtf8("http://server/\u00fc_").repeated(6000);
@@ -226,9 +232,11 @@ private Q_SLOTS:
                 QCOMPARE(BytesOf(bench.pin), before);
                 QCOMPARE(bench.Texts(), marks);
                 QCOMPARE(bench.status.caption, gStrings[111]);
+                QVERIFY(bench.CanSave());
                 bench.Save();
             }
             QCOMPARE(bench.Stored(), QStringList({"x", "b", "z"}));
+            QVERIFY(!bench.CanSave());
             all = std::max(all, operations);
         }
         QVERIFY(all >= 5);  // opening, the stamp, two texts, the save
@@ -266,27 +274,6 @@ private Q_SLOTS:
         QVERIFY(bench.dialogs.AllCame());
         bench.Save();
         QCOMPARE(bench.Stored(), QStringList("b"));
-    }
-
-    void aWebDocumentIsWrittenBack() {
-        Bench bench;
-        bench.Load({"a"});
-        FakeWeb web;
-        const QString url = "http://server/docs/pin.tfmprt";
-        web.server.files[url] = BytesOf(bench.pin);
-        gWebDocument = true;
-        bench.pane->SetPartName("pin", url);
-        bench.Type(2, "mine");
-        web.server.refusesUploads = true;
-        bench.dialogs.Expect("File save to server failed", Dialogs::Icon::None);
-        bench.Save();
-        QCOMPARE(bench.status.caption, gStrings[111]);
-        web.server.refusesUploads = false;
-        bench.Save();
-        QCOMPARE(bench.status.caption, gStrings[110]);
-        QCOMPARE(web.server.calls.count("put " + url), 2);
-        QVERIFY(!bench.CanSave());
-        gWebDocument = false;
     }
 };
 

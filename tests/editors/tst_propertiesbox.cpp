@@ -1,5 +1,7 @@
 // The property pane: loading and editing, through its widgets.
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLocale>
 
 #include "services/documentlibrary.h"
@@ -283,6 +285,40 @@ private Q_SLOTS:
         QTest::mouseClick(bench.AddButton(kCustomSet), Qt::LeftButton);
         QCOMPARE(bench.Rows(kCustomSet).Count(), 4);
         QVERIFY(!bench.ApplyButton()->isEnabled());
+    }
+
+    // Or it would be passed over when the set is written.
+    void aNameThatNoDocumentHoldsCantBeEntered() {
+        PropertiesBench bench;
+        bench.Load();
+        bench.ShowTabOf(kCustomSet);
+        bench.Name(kCustomSet)->setFocus();
+        QTest::keyClicks(bench.Name(kCustomSet), "Owner");
+        for (const char16_t bad : {u'\x01', u'\n', u'\xFFFE', u'\xFFFF', u'\xD800', u'\xDC00'}) {
+            QGuiApplication::clipboard()->setText(QString("x") + QChar(bad));
+            bench.Name(kCustomSet)->lineEdit()->paste();
+            QCOMPARE(bench.Name(kCustomSet)->currentText(), QString("Owner"));
+        }
+        QGuiApplication::clipboard()->setText(QString::fromUtf8(" \U0001F529"));
+        bench.Name(kCustomSet)->lineEdit()->paste();
+        bench.Value(kCustomSet)->setText("Castings");
+        QTest::mouseClick(bench.AddButton(kCustomSet), Qt::LeftButton);
+        bench.Apply();
+        QCOMPARE(bench.Stored(QString::fromUtf8("Owner \U0001F529")), QVariant("Castings"));
+    }
+
+    void resetGivesTheFocusByTheTab() {
+        PropertiesBench bench;
+        bench.Load();
+        QWidget* const focused[] = {bench.Summary(2), bench.Name(kCustomSet),
+                                    bench.Configurations()};
+        for (int tab = 0; tab < 3; ++tab) {
+            bench.Tabs()->setCurrentIndex(tab);
+            bench.Summary(0)->setText(QString::number(tab));
+            QTest::mouseClick(bench.ResetButton(), Qt::LeftButton);
+            QVERIFY(focused[tab]->hasFocus());
+            QCOMPARE(bench.Summary(0)->text(), QString("Pin"));
+        }
     }
 
     void resetBringsARemovedPropertyBack() {

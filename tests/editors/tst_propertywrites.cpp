@@ -1,12 +1,12 @@
 // The property pane: what it writes, in which order, and what stops it.
 
+#include <QClipboard>
 #include <QFile>
+#include <QGuiApplication>
 #include <QLocale>
 
-#include "services/webdocument.h"
 #include "tests/editors/propertiesbench.h"
 #include "tests/support/failingaccess.h"
-#include "tests/support/fakewebclient.h"
 #include "tests/support/filelockholder.h"
 #include "tests/support/testenvironment.h"
 
@@ -66,6 +66,28 @@ private Q_SLOTS:
         QCOMPARE(record->GetComments(), QString("three\nfour"));
         QCOMPARE(record->GetTitle(), QString("Pin"));
         QCOMPARE(bench.Fact("labLastsaved"), record->GetLastSaved());
+    }
+
+    void theDateOfTheLastSaveIsReadFromTheDocument() {
+        PropertiesBench bench;
+        ChangeElsewhere(bench.pin, [](DocumentBuilder& document) {
+            document.SetCreated(QDateTime(QDate(2003, 12, 24), QTime(8, 5)));
+            document.SetLastSaved(QDateTime(QDate(2004, 5, 31), QTime(14, 7)), "anna");
+        });
+        QLocale::setDefault(QLocale("de_DE"));
+        bench.Load();
+        QCOMPARE(bench.Fact("labCreated"), QString("24.12.03 08:05"));
+        QCOMPARE(bench.Fact("labLastsaved"), QString("31.05.04 14:07"));
+        QCOMPARE(bench.Fact("labLastSavedby"), QString("anna"));
+        bench.Put(kCustomSet, "Owner", "Castings");
+        QCOMPARE(bench.Fact("labLastsaved"), QString("31.05.04 14:07"));
+        bench.Apply();
+        const QString shown = bench.Fact("labLastsaved");
+        QVERIFY(shown != "31.05.04 14:07");
+        QCOMPARE(shown, bench.Record()->GetLastSaved());
+        QCOMPARE(bench.Fact("labLastSavedby"), bench.Record()->GetLastSavedBy());
+        QCOMPARE(bench.Fact("labCreated"), QString("24.12.03 08:05"));
+        QLocale::setDefault(QLocale::system());
     }
 
     void everyRowIsWrittenBehindTheDeletions() {
@@ -171,6 +193,27 @@ private Q_SLOTS:
         QTest::keyClicks(bench.Comments(), "er");
         bench.Apply();
         QCOMPARE(bench.Record()->GetComments(), QString("5\u00a0mm\nlonger"));
+    }
+
+    void everyLineOfTheCommentsEndsAlike() {
+        PropertiesBench bench;
+        ChangeElsewhere(bench.pin, [](DocumentBuilder& document) {
+            document.SetComments(QString::fromUtf8("kept\u2028as it is"));
+        });
+        bench.Load();
+        bench.Put(kCustomSet, "Owner", "Castings");
+        bench.Apply();
+        QCOMPARE(bench.Record()->GetComments(), QString::fromUtf8("kept\u2028as it is"));
+        bench.Tabs()->setCurrentIndex(0);
+        bench.Comments()->clear();
+        QTest::keyClicks(bench.Comments(), "one");
+        QTest::keyClick(bench.Comments(), Qt::Key_Return, Qt::ShiftModifier);
+        QTest::keyClicks(bench.Comments(), "two");
+        QTest::keyClick(bench.Comments(), Qt::Key_Return);
+        QGuiApplication::clipboard()->setText(QString::fromUtf8("three\u2028four\u2029five"));
+        bench.Comments()->paste();
+        bench.Apply();
+        QCOMPARE(bench.Record()->GetComments(), QString("one\ntwo\nthree\nfour\nfive"));
     }
 
     void longTextsAreWrittenWhole() {
@@ -405,47 +448,6 @@ private Q_SLOTS:
         QCOMPARE(bench.Record()->GetTitle(), QString("Pin"));
         bench.Load();
         QCOMPARE(bench.Summary(0)->text(), QString("Pin"));
-    }
-
-    void aWebDocumentIsWrittenBack() {
-        PropertiesBench bench;
-        FakeWeb web;
-        const QString url = "http://server/docs/pin.tfmprt";
-        web.server.files[url] = BytesOf(bench.pin);
-        gWebDocument = true;
-        bench.pane.SetPartName("pin", url);
-        QCOMPARE(bench.Summary(0)->text(), QString("Pin"));
-        bench.PickConfiguration(0);
-        bench.Put(kConfigurationSet, "Length", "21", 2);
-        bench.Put(kCustomSet, "Owner", "Mine");
-        bench.Apply();
-        QCOMPARE(web.server.calls, QStringList({"get " + url, "put " + url, "put " + url}));
-        QFile copy(bench.library.Path("copy.tfmprt"));
-        QVERIFY(copy.open(QFile::WriteOnly) && copy.write(web.server.files[url]) > 0);
-        copy.close();
-        bench.pin = copy.fileName();
-        QCOMPARE(bench.Stored("Owner"), QVariant("Mine"));
-        QCOMPARE(bench.StoredIn(0, "Length"), QVariant(21.0));
-        gWebDocument = false;
-    }
-
-    void aRefusedUploadCanBeTriedAgain() {
-        PropertiesBench bench;
-        FakeWeb web;
-        const QString url = "http://server/docs/pin.tfmprt";
-        web.server.files[url] = BytesOf(bench.pin);
-        bench.pane.SetPartName("pin", url);
-        bench.Remove(kCustomSet, "Mass");
-        bench.Summary(0)->setText("Dowel");
-        web.server.refusesUploads = true;
-        bench.dialogs.Expect("File save to server failed", Dialogs::Icon::None);
-        bench.Apply();
-        QVERIFY(bench.dialogs.AllCame());
-        QVERIFY(bench.dialogs.LastDetail().startsWith(web.server.error));
-        web.server.refusesUploads = false;
-        bench.Apply();
-        QCOMPARE(web.server.calls.count("put " + url), 2);
-        QVERIFY(web.server.files[url] != BytesOf(bench.pin));
     }
 };
 

@@ -1,5 +1,6 @@
 // The rules of the document search pane: their editors, their list, and saved searches.
 
+#include <QClipboard>
 #include <QLocale>
 #include <QTemporaryDir>
 #include <QTest>
@@ -78,6 +79,20 @@ private Q_SLOTS:
         QVERIFY(!bench.Start()->isEnabled());
         bench.LookIn()->setText("/w");
         QVERIFY(bench.Start()->isEnabled());
+    }
+
+    void APastedLineEndIsNoPartOfARule() {
+        SearchBench bench;
+        QGuiApplication::clipboard()->setText("gear\r\nwheel\n");
+        bench.Edit("Title", kContains, "");
+        bench.Value()->paste();
+        bench.Click("srcAddToList");
+        QCOMPARE(bench.Rules()->List().At(0).cells[kRuleValue].text, QString("gear wheel"));
+        QGuiApplication::clipboard()->setText("\n");
+        bench.Value()->clear();
+        bench.Value()->paste();
+        bench.Click("srcAddToList");
+        QCOMPARE(bench.Rules()->List().Count(), 1);
     }
 
     void YesAndNoNeedNoValue() {

@@ -11,6 +11,7 @@
 #include "search/searchrules.h"
 #include "services/docaccess.h"
 #include "services/language.h"
+#include "tests/support/smallfiles.h"
 #include "tests/support/testenvironment.h"
 #include "tests/support/testlibrary.h"
 
@@ -142,6 +143,18 @@ private Q_SLOTS:
         QCOMPARE(Read("\"P\" \"=\" \"" + QByteArray(1'000'000, 'x') + "\"").size(), 1);
     }
 
+    // Without its end, a line of nine pieces has seven.
+    void AHugeFileThatIsCutInTheMidstOfARuleLosesThatRule() {
+        const QByteArray line = "\"OR\" \"P\" \"=\" \"1\"\n";
+        for (int offset = 0; offset < line.size(); ++offset) {
+            Put(QByteArray(offset, '\n') + line.repeated(100'000));
+            CellList rules;
+            QVERIFY_THROWS_EXCEPTION(DocumentError, ReadSavedSearch(Path(), {"="}, rules));
+            QCOMPARE(rules.Count(), ((1 << 20) - offset) / int(line.size()));
+            QCOMPARE(Texts(rules).last(), QString("OR|P|=|1|0"));
+        }
+    }
+
     void AHugeFileMayBeCutInTheMidstOfACharacter() {
         for (int offset = 0; offset < 3; ++offset) {
             Put("\"P\" \"=\" \"\xC3\xA9\"\n" + QByteArray(offset, ' ') +
@@ -167,6 +180,10 @@ private Q_SLOTS:
         QVERIFY_THROWS_EXCEPTION(DocumentError, WriteSavedSearch(folder_.path(), rules));
         QVERIFY_THROWS_EXCEPTION(DocumentError,
                                  WriteSavedSearch(folder_.filePath("no/such/folder.tdbs"), rules));
+        {
+            const SmallFiles full(4);
+            QVERIFY_THROWS_EXCEPTION(DocumentError, WriteSavedSearch(Path(), rules));
+        }
         QCOMPARE(Bytes(), QByteArray("\"P\" \"=\" \"1\"\n"));
         try {
             WriteSavedSearch(folder_.path(), rules);

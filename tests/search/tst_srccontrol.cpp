@@ -26,6 +26,8 @@ public:
     FakeSpreadsheet() { gSeams.spreadsheet = this; }
     ~FakeSpreadsheet() override { gSeams.spreadsheet = nullptr; }
     QString Show(const TextTable& table) override {
+        if (shows)
+            shows();
         if (fails)
             throw DocumentError("no room");
         shown = table;
@@ -33,6 +35,7 @@ public:
     }
     TextTable shown;
     bool fails = false;
+    std::function<void()> shows;  // meanwhile
 };
 
 bool ShowsWaitPointer() {
@@ -138,6 +141,10 @@ private Q_SLOTS:
                 QTest::qVerify(bench.Start()->isEnabled() && bench.Start()->text() == gStrings[53],
                                "srcStart", "", __FILE__, __LINE__);
                 QTest::qVerify(ShowsWaitPointer(), "pointer", "", __FILE__, __LINE__);
+                QTest::qVerify(!bench.Child<QLabel>("srcProgress")->text().isEmpty(), "progress",
+                               "", __FILE__, __LINE__);
+                QTest::qVerify(bench.Found() == QStringList("a.prt"), "rows so far", "", __FILE__,
+                               __LINE__);
                 QTest::qVerify(bench.status.caption == sprintf(gStrings[295], {bench.root}),
                                "status", "", __FILE__, __LINE__);
                 bench.Click("srcStart");
@@ -323,6 +330,18 @@ private Q_SLOTS:
         bench.dialogs.Expect("*", Dialogs::Icon::None);
         bench.Child<QAction>("mnexport")->trigger();
         QCOMPARE(bench.status.caption, gStrings[42]);
+    }
+
+    void ThePaneMayGoAwayBehindTheBoxOfAFailedExport() {
+        SearchBench bench;
+        bench.File("a.prt");
+        bench.Search();
+        FakeSpreadsheet spreadsheet;
+        spreadsheet.shows = [&] { bench.pane.reset(); };
+        QAction* mnexport = bench.pane->findChild<QAction*>("mnexport");
+        QVERIFY(mnexport);
+        QMetaObject::invokeMethod(mnexport, "trigger");
+        QVERIFY(!bench.pane);
     }
 
     void WithoutALibraryASearchEndsEmpty() {

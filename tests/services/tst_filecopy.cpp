@@ -1,7 +1,6 @@
 // Copying one file: it is there whole or not at all, and what it would replace is never lost.
 
 #include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -10,13 +9,13 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <atomic>
-#include <csignal>
 #include <cstdio>
 #include <stop_token>
 #include <thread>
 
 #include "services/docaccess.h"
 #include "services/filesystem.h"
+#include "tests/support/smallfiles.h"
 #include "tests/support/testenvironment.h"
 
 using namespace docbench;
@@ -53,25 +52,6 @@ mode_t ModeOf(const QString& path) {
     return stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & ACCESSPERMS
                                                                    : 0;
 }
-
-// No file of this process may grow beyond `bytes` meanwhile: the disk is full in the middle.
-class SmallFiles {
-public:
-    explicit SmallFiles(rlim_t bytes) {
-        former_ = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &limit_);
-        const rlimit small{bytes, limit_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~SmallFiles() {
-        setrlimit(RLIMIT_FSIZE, &limit_);
-        std::signal(SIGXFSZ, former_);
-    }
-
-private:
-    rlimit limit_{};
-    void (*former_)(int);
-};
 
 // Long enough for another thread to come in between, mostly; else it is tried again.
 constexpr int kLong = 16 << 20;
