@@ -9,7 +9,7 @@ QString Quoted(const QString& text) {
     return u'\'' + QString(text).replace(u'\'', QLatin1String("'\\''")) + u'\'';
 }
 
-// A description within a specification, where brackets and colons separate.
+// A description within a rule, where brackets and colons separate.
 QString Described(const QString& text) {
     QString escaped = text;
     for (const char16_t mark : {u'\\', u'[', u']', u':'})
@@ -36,7 +36,7 @@ QString Action(WordKind kind, const QString& value) {
 }
 
 // Options may be given several times where the help says so.
-QString OptionSpecification(const HelpEntry& option) {
+QString OptionRule(const HelpEntry& option) {
     const OptionNames names = NamesOf(option);
     const bool repeats = option.text.contains(QLatin1String("several times")) ||
                          option.text.contains(QLatin1String("repeated"));
@@ -46,7 +46,7 @@ QString OptionSpecification(const HelpEntry& option) {
             ? QString()
             : QStringLiteral(":%1:%2").arg(names.value.toLower(),
                                            Action(KindOfValue(names.value), names.value));
-    QStringList specifications;
+    QStringList rules;
     for (const QString& name : names.names) {
         const QString before =
             repeats ? QStringLiteral("*") : QStringLiteral("(%1)").arg(names.names.join(u' '));
@@ -54,12 +54,12 @@ QString OptionSpecification(const HelpEntry& option) {
         const QString joins = !value.isEmpty() && name.startsWith(QLatin1String("--"))
                                   ? QStringLiteral("=")
                                   : QString();
-        specifications.append(Quoted(before + name + joins + what + value));
+        rules.append(Quoted(before + name + joins + what + value));
     }
-    return specifications.join(QLatin1String(" \\\n        "));
+    return rules.join(QLatin1String(" \\\n        "));
 }
 
-QString ArgumentSpecification(const QString& word, int position) {
+QString ArgumentRule(const QString& word, int position) {
     const QString name =
         QString(word).remove(u'[').remove(u']').remove(QLatin1String("...")).toLower();
     const bool repeats = word.contains(QLatin1String("..."));
@@ -70,14 +70,14 @@ QString ArgumentSpecification(const QString& word, int position) {
 
 // The call that completes the words of one command.
 QString Call(const HelpText& help) {
-    QStringList specifications;
+    QStringList rules;
     for (const HelpEntry& option : help.options)
-        specifications.append(OptionSpecification(option));
+        rules.append(OptionRule(option));
     int position = 0;
     for (const QString& word : ArgumentsOf(help.usage))
-        specifications.append(ArgumentSpecification(word, ++position));
+        rules.append(ArgumentRule(word, ++position));
     return QStringLiteral("_arguments -s -S \\\n        ") +
-           specifications.join(QLatin1String(" \\\n        "));
+           rules.join(QLatin1String(" \\\n        "));
 }
 
 QString CommandList(const HelpText& help) {

@@ -13,6 +13,7 @@ for tool in "${tools[@]}"; do
         missing+=("$tool")
 done
 if [ ${#missing[@]} -gt 0 ]; then
+    apt-get update -q
     DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
 fi
 

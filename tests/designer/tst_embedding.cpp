@@ -1,3 +1,4 @@
+#include <QDirIterator>
 #include <QImage>
 
 #include "tests/support/installation.h"
@@ -67,14 +68,38 @@ private Q_SLOTS:
                 100);
     }
 
+    void everyInstalledHeaderStandsAlone() {
+        const QString folder = install_.Path(QStringLiteral("headers"));
+        QVERIFY(QDir().mkpath(folder));
+        QByteArray includes;
+        const QDir installed(install_.Path(QStringLiteral("usr/include/docbench")));
+        for (QDirIterator headers(installed.path(), {QStringLiteral("*.h")}, QDir::Files,
+                                  QDirIterator::Subdirectories);
+             headers.hasNext();)
+            includes +=
+                "#include \"" + installed.relativeFilePath(headers.next()).toUtf8() + "\"\n";
+        QVERIFY(includes.contains("frame/maincontrol.h"));
+        Write(folder + QStringLiteral("/all.cpp"), includes);
+        Write(folder + QStringLiteral("/CMakeLists.txt"),
+              "cmake_minimum_required(VERSION 3.16)\nproject(headers LANGUAGES CXX)\n"
+              "find_package(Docbench REQUIRED)\nadd_library(headers OBJECT all.cpp)\n"
+              "target_compile_features(headers PRIVATE cxx_std_20)\n"
+              "target_compile_options(headers PRIVATE -fsyntax-only)\n"
+              "target_link_libraries(headers PRIVATE Docbench::Controls)\n");
+        const QString build = folder + QStringLiteral("/build");
+        const Outcome configured =
+            RunProgram(QStringLiteral("cmake"), {"-S", folder, "-B", build, "-G", "Ninja",
+                                                 "-DCMAKE_PREFIX_PATH=" + install_.Path("usr")});
+        QVERIFY2(configured.code == 0, qPrintable(configured.out + configured.err));
+        const Outcome built = RunProgram(QStringLiteral("cmake"), {"--build", build});
+        QVERIFY2(built.code == 0, qPrintable(built.out + built.err));
+    }
+
     void aHostOfALaterMajorVersionIsRefused() {
-        QFile list(install_.Path(QStringLiteral("later/CMakeLists.txt")));
         QVERIFY(QDir().mkpath(install_.Path(QStringLiteral("later"))));
-        QVERIFY(list.open(QIODevice::WriteOnly));
-        list.write(
-            "cmake_minimum_required(VERSION 3.16)\nproject(later LANGUAGES NONE)\n"
-            "find_package(Docbench 2.0 REQUIRED)\n");
-        list.close();
+        Write(install_.Path(QStringLiteral("later/CMakeLists.txt")),
+              "cmake_minimum_required(VERSION 3.16)\nproject(later LANGUAGES NONE)\n"
+              "find_package(Docbench 2.0 REQUIRED)\n");
         const Outcome run =
             RunProgram(QStringLiteral("cmake"),
                        {"-S", install_.Path("later"), "-B", install_.Path("later/build"), "-G",
@@ -84,6 +109,12 @@ private Q_SLOTS:
     }
 
 private:
+    static void Write(const QString& path, const QByteArray& text) {
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+            qFatal("%s can't be written", qPrintable(path));
+    }
+
     QString Host() const { return install_.Path(QStringLiteral("host")); }
 
     // A build with sanitizers needs them in the host's program as well.

@@ -62,6 +62,20 @@ private Q_SLOTS:
         QVERIFY2(run.code == 0, qPrintable(run.out + run.err));
     }
 
+    void theDescriptionTellsOfTheVersionThatIsInstalled() {
+        QFile file(install_.Data(QStringLiteral("metainfo/%1.metainfo.xml").arg(kId)));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(file.readAll());
+        const QString version = RunProgram(install_.Path(QStringLiteral("usr/bin/docbench")),
+                                           {QStringLiteral("--version")})
+                                    .out.trimmed()
+                                    .section(u' ', -1);
+        const qsizetype newest = text.indexOf(QLatin1String("<release "));
+        QVERIFY(newest > 0);
+        QVERIFY(
+            text.mid(newest).startsWith(QStringLiteral("<release version=\"%1\"").arg(version)));
+    }
+
     void theDocumentTypesAreWellFormed() {
         const Outcome run =
             RunProgram(QStringLiteral("xmllint"),

@@ -19,8 +19,9 @@ inline Outcome RunProgram(const QString& program, const QStringList& arguments,
                           const QMap<QString, QString>& variables = {}) {
     QProcess process;
     QProcessEnvironment environment;
-    for (const char* kept : {"PATH", "HOME", "TMPDIR", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME",
-                             "XDG_CACHE_HOME", "XDG_DATA_HOME", "ASAN_OPTIONS"})
+    for (const char* kept :
+         {"PATH", "HOME", "TMPDIR", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_CACHE_HOME",
+          "XDG_DATA_HOME", "ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS"})
         environment.insert(QString::fromLatin1(kept), qEnvironmentVariable(kept));
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
