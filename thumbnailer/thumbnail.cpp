@@ -24,7 +24,7 @@ QImage StoredPicture(const QString& document) {
         throw DocumentError(
             QStringLiteral("The document %1 has no preview. Save it in the CAD program.")
                 .arg(document));
-    const QImage picture = docmodel::ReadPicture(*stored);
+    QImage picture = docmodel::ReadPicture(*stored);
     if (picture.isNull())
         throw DocumentError(
             QStringLiteral("The preview in %1 is damaged or too large.").arg(document));
