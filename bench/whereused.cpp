@@ -10,8 +10,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
+#include <QLineEdit>
 #include <QProcess>
 #include <QSet>
 #include <QTemporaryDir>
@@ -23,6 +24,10 @@
 #include "docmodel/access.h"
 #include "docmodel/builder.h"
 #include "docmodel/referenceindex.h"
+#include "panes/celllistview.h"
+#include "services/language.h"
+#include "services/seams.h"
+#include "whereused/whereused.h"
 
 using namespace docbench;
 using bench::Best;
@@ -167,17 +172,32 @@ void AgainstOthers(const QString& library) {
 }
 
 // Documents that all refer to the target, `rows` rows in all.
-void MakeUsers(const QString& folder, int rows) {
-    constexpr int kRowsADocument = 20;
+void MakeUsers(const QString& folder, int rows, int rowsADocument = 20) {
     QDir().mkpath(folder);
-    for (int i = 0; i < rows / kRowsADocument; ++i) {
+    for (int i = 0; i < rows / rowsADocument; ++i) {
         auto document = docmodel::DocumentBuilder::New(
-            folder + QStringLiteral("/user%1.tfmasm").arg(i, 4, 10, QLatin1Char('0')));
-        for (int row = 0; row < kRowsADocument; ++row)
+            folder + QStringLiteral("/user%1.tfmasm").arg(i, 5, 10, QLatin1Char('0')));
+        for (int row = 0; row < rowsADocument; ++row)
             document.AddComponent(folder + u'/' + QLatin1String(kTarget) +
                                   QStringLiteral(".tfmprt"));
         document.Save();
     }
+}
+
+// The pane's own share: what it does with each row that is found.
+double SearchInPane(const QString& folder, int rows) {
+    whereUsed pane;
+    pane.resize(800, 600);
+    pane.show();
+    pane.findChild<QLineEdit*>("wuName")->setText(QLatin1String(kTarget));
+    pane.findChild<QLineEdit*>("wuLookin")->setText(folder);
+    const double time = Best(kRounds, [&] { pane.Findnow(); });
+    const int found = pane.findChild<CellListView*>("whereList")->List().Count();
+    if (found != rows) {
+        std::printf("%d rows in the pane instead of %d\n", found, rows);
+        gKept = false;
+    }
+    return time;
 }
 
 void Growth(const QString& folder, const QString& library, int documents) {
@@ -191,6 +211,15 @@ void Growth(const QString& folder, const QString& library, int documents) {
     constexpr double kLinear = 1.5;  // what grows with the square would be 4
     Compare("time for 4 times the rows / 4 times the time", many, 4 * few, kLinear);
 
+    constexpr int kManyUsers = 10'000;
+    MakeUsers(folder + QStringLiteral("/few users"), kManyUsers / 4, 1);
+    MakeUsers(folder + QStringLiteral("/many users"), kManyUsers, 1);
+    const double fewUsers = SearchInPane(folder + QStringLiteral("/few users"), kManyUsers / 4);
+    const double manyUsers = SearchInPane(folder + QStringLiteral("/many users"), kManyUsers);
+    std::printf("in the pane: 2,500 rows %.1f ms, 10,000 rows %.1f ms\n", fewUsers, manyUsers);
+    Compare("time for 4 times the rows in the pane / 4 times the time", manyUsers, 4 * fewUsers,
+            kLinear);
+
     const QString quarter = folder + QStringLiteral("/quarter");
     MakeLibrary(quarter, documents / 4);
     const double part = Best(kRounds, [&] { Search(quarter); });
@@ -201,9 +230,12 @@ void Growth(const QString& folder, const QString& library, int documents) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    const QCoreApplication application(argc, argv);
+    const QApplication application(argc, argv);
     const QTemporaryDir folder;
     docmodel::GlobalIndexSettings().file = folder.filePath("cache/references.sqlite");
+    docmodel::Access access;
+    gSeams.documents = &access;
+    LoadResources();
     const int documents = argc > 1 ? QByteArray(argv[1]).toInt() : kUsualDocuments;
     const QString library = folder.filePath("library");
     MakeLibrary(library, documents);

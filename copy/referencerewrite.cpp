@@ -9,6 +9,7 @@
 #include "services/docaccess.h"
 #include "services/documentlibrary.h"
 #include "services/errorstate.h"
+#include "services/filesystem.h"
 #include "services/language.h"
 #include "services/paths.h"
 #include "services/seams.h"
@@ -91,7 +92,7 @@ private:
     std::unique_ptr<DocumentFile> parentCopy_;
     QSet<QString> done_;     // copies (by KeyOf) that need no second visit
     QSet<QString> written_;  // targets (their keys) whose tables are our own work by now
-    // The stamps that tables got by our own writes, by path and table.
+    // The stamps that tables got by our own writes, by file and table.
     QHash<std::pair<QString, bool>, QByteArray> stamps_;
     int counted_ = 0;
     int all_ = 0;
@@ -296,7 +297,7 @@ Rewriter::Next Rewriter::RewriteRow(int index) {
 // The position of a row is good for one state of the table: the one that the search saw, or the
 // one that our own last write left.
 void Rewriter::RequireStamp(DocumentFile& file, const ParentRow& row, const QString& path) const {
-    const QByteArray expected = stamps_.value({path, row.external}, row.stamp);
+    const QByteArray expected = stamps_.value({PathWithoutLinks(path), row.external}, row.stamp);
     if (!expected.isEmpty() && file.GetStamp(TableOf(row.external)) != expected)
         throw DocumentError(QStringLiteral("The references of %1 were changed since they were "
                                            "looked for. Look for them again.")
@@ -365,7 +366,8 @@ Rewriter::Next Rewriter::RewriteParent(int index) {
     if (modified)
         errors.Run([&] {
             writing->Save();
-            stamps_[{saved, row.external}] = writing->GetStamp(TableOf(row.external));
+            stamps_[{PathWithoutLinks(saved), row.external}] =
+                writing->GetStamp(TableOf(row.external));
             UploadIfWeb(saved);
         });
     if (!errors.Failed()) {

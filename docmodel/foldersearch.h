@@ -17,9 +17,8 @@ struct FolderFindings {
 };
 
 // Searches the folder of the query's pattern and adds it to `known`. Nothing is found in a link to
-// a folder that is known by another name: a walk through linked folders ends, and meets no document
-// twice. The index spares time, and changes no answer. Raises DocumentError when the folder can't
-// be listed.
+// a folder that is known by another name, so that a walk through linked folders ends. The index
+// spares time, and changes no answer. Raises DocumentError when the folder can't be listed.
 FolderFindings SearchFolder(const docbench::ReferenceQuery& query, KnownFolders& known,
                             ReferenceIndex& index);
 

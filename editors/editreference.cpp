@@ -132,7 +132,8 @@ void editReference::ExportRows() {
     if (!alive)
         return;  // behind the box of an export that failed
     SetStatusText(told);
-    ui_->lblProgress->setText(where);
+    if (!where.isEmpty())
+        ui_->lblProgress->setText(where);
 }
 
 }  // namespace docbench

@@ -118,8 +118,11 @@ bool FolderListInput::eventFilter(QObject* watched, QEvent* event) {
         const bool leaves = reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason;
         if (watched == List1_ && leaves)
             HideList();
-        if (watched == controls_.wuLookin && leaves && onLeaving_ == OnLeaving::TestsFolders)
-            TestFolders();
+        if (watched == controls_.wuLookin && leaves && onLeaving_ == OnLeaving::TestsFolders) {
+            // Not in the midst of a change of focus: a box comes up, and all may be gone behind it.
+            isLeft_ = true;
+            QMetaObject::invokeMethod(this, &FolderListInput::TestIfLeft, Qt::QueuedConnection);
+        }
     }
     if (watched == List1_ && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
@@ -129,6 +132,11 @@ bool FolderListInput::eventFilter(QObject* watched, QEvent* event) {
             return HideList(), controls_.wuLookin->setFocus(), true;
     }
     return QObject::eventFilter(watched, event);
+}
+
+void FolderListInput::TestIfLeft() {
+    if (std::exchange(isLeft_, false))
+        TestFolders();
 }
 
 void FolderListInput::TestFolders() {

@@ -31,6 +31,8 @@ public:
     QString Text() const;
     // A new entry behind those that are there.
     void Append(const QString& entry);
+    // Tests the folders of a field that was just left, which otherwise comes with the next events.
+    void TestIfLeft();
     void HideList();
     void RefreshList();  // from the settings
     // Whether the list is filled anew each time it drops down; else it keeps what RefreshList gave.
@@ -54,6 +56,7 @@ private:
     CellList* names_;
     bool refillsOnShow_ = true;
     QString browseTitle_;   // empty: the usual one
+    bool isLeft_ = false;   // and its folders are still to be tested
     bool testing_ = false;  // its own box takes the focus as well
 };
 

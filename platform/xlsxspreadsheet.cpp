@@ -1,17 +1,21 @@
 #include "platform/xlsxspreadsheet.h"
 
 #include <xlsxwriter.h>
+#include <zip.h>
 
 #include <QDate>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 #include <QStandardPaths>
+#include <QXmlStreamReader>
 #include <algorithm>
 
 #include "services/docaccess.h"
 #include "services/seams.h"
 #include "services/shellexecute.h"
+#include "services/wholefile.h"
 
 namespace docbench {
 namespace {
@@ -49,6 +53,30 @@ void Fill(lxw_worksheet* sheet, const TextTable& table, const QString& path) {
               path);
 }
 
+// Whether every part of the sheet is there to its end: the writer builds them in temporary files
+// and does not tell when one of those found no room.
+bool IsWhole(const QString& path) {
+    zip_t* const package = zip_open(QFile::encodeName(path).constData(), ZIP_RDONLY, nullptr);
+    bool whole = package != nullptr;
+    for (zip_int64_t i = 0; whole && i < zip_get_num_entries(package, 0); ++i) {
+        zip_file_t* const part = zip_fopen_index(package, zip_uint64_t(i), 0);
+        QXmlStreamReader xml;
+        std::vector<char> bytes(1 << 16);
+        zip_int64_t got = 0;
+        while (part && (got = zip_fread(part, bytes.data(), bytes.size())) > 0) {
+            xml.addData(QByteArray::fromRawData(bytes.data(), got));
+            while (!xml.atEnd())
+                xml.readNext();
+        }
+        whole = part && got == 0 && !xml.hasError();
+        if (part)
+            zip_fclose(part);
+    }
+    if (package)
+        zip_discard(package);
+    return whole;
+}
+
 // A name in the documents folder that no file has.
 QString FreePath() {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
@@ -76,7 +104,9 @@ void WriteXlsx(const TextTable& table, const QString& path) {
     if (table.size() > kMostRows)
         Fail(path, QStringLiteral("a sheet holds no more than 1048576 rows"));
     const QString whole = path + QStringLiteral(".part");
-    lxw_workbook* book = workbook_new(QFile::encodeName(whole).constData());
+    QByteArray folder = QFile::encodeName(QFileInfo(path).absolutePath());
+    lxw_workbook_options options = {.constant_memory = 0, .tmpdir = folder.data(), .use_zip64 = 0};
+    lxw_workbook* book = workbook_new_opt(QFile::encodeName(whole).constData(), &options);
     if (!book)
         Fail(path, QStringLiteral("there is no memory for it"));
     try {
@@ -86,11 +116,13 @@ void WriteXlsx(const TextTable& table, const QString& path) {
         throw;
     }
     const lxw_error closed = workbook_close(book);
-    if (closed != LXW_NO_ERROR || !QFile::rename(whole, path)) {
-        QFile::remove(whole);
-        Fail(path, closed != LXW_NO_ERROR ? QString::fromUtf8(lxw_strerror(closed))
-                                          : QStringLiteral("there is such a file already"));
-    }
+    const bool isWhole = closed == LXW_NO_ERROR && IsWhole(whole);
+    if (isWhole && QFile::rename(whole, path))
+        return;
+    QFile::remove(whole);
+    Fail(path, closed != LXW_NO_ERROR ? QString::fromUtf8(lxw_strerror(closed))
+               : isWhole              ? QStringLiteral("there is such a file already")
+                                      : QStringLiteral("there is no room for it"));
 }
 
 void WriteCsv(const TextTable& table, const QString& path) {
@@ -108,7 +140,7 @@ void WriteCsv(const TextTable& table, const QString& path) {
         }
         file.write(line + "\r\n");
     }
-    if (!file.commit())
+    if (!CommitWhole(file))
         Fail(path, file.errorString());
 }
 

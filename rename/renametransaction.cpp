@@ -42,8 +42,11 @@ class Transaction {
 public:
     Transaction(CellList& rows, const RenamePlan& plan, const RenameProgress& progress)
         : rows_(rows), plan_(plan), progress_(progress), document_(Documents().MakeDocumentFile()) {
-        for (int row = 0; row < rows_.Count(); ++row)
-            rowsOf_[rows_.At(row).cells[kHolderColumn].tag].append(row);
+        for (int row = 0; row < rows_.Count(); ++row) {
+            const QString& holder = rows_.At(row).cells[kHolderColumn].tag;
+            fileOf_.insert(holder, PathWithoutLinks(holder));
+            rowsOf_[fileOf_[holder]].append(row);
+        }
     }
 
     RenameResult Run() {
@@ -161,7 +164,7 @@ private:
     void RenewStamps(const QString& holder, Table table, const QByteArray& before) {
         const QString former = QString::fromLatin1(before.toHex());
         const QString renewed = QString::fromLatin1(document_->GetStamp(table).toHex());
-        for (const int index : rowsOf_.value(holder)) {
+        for (const int index : rowsOf_.value(fileOf_.value(holder, holder))) {
             const CellRow& row = rows_.At(index);
             if (TableOf(ReadRow(row).external) == table && row.cells[kTableColumn].tag == former)
                 rows_.Change(index, [&](CellRow& own) { own.cells[kTableColumn].tag = renewed; });
@@ -172,7 +175,8 @@ private:
     const RenamePlan& plan_;
     const RenameProgress& progress_;
     std::unique_ptr<DocumentFile> document_;
-    QHash<QString, QList<int>> rowsOf_;  // by holder
+    QHash<QString, QString> fileOf_;     // by holder; two may be one file, found through a link
+    QHash<QString, QList<int>> rowsOf_;  // by the holder's file
     RenameResult result_;
 };
 

@@ -8,6 +8,7 @@
 #include "cells/celllist.h"
 #include "search/searchrules.h"
 #include "services/docaccess.h"
+#include "services/wholefile.h"
 
 namespace docbench {
 namespace {
@@ -89,9 +90,7 @@ void WriteSavedSearch(const QString& path, const CellList& rules) {
         bytes += LineOf(rule).toUtf8() + '\n';
     QSaveFile file(path);
     file.setDirectWriteFallback(true);  // a folder may take no new files
-    // What is left in the buffer is written by the commit, which does not tell when that fails.
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||
-        !file.commit())
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !CommitWhole(file))
         Raise(QStringLiteral("The saved search %1 can't be written: %2. Choose another folder or "
                              "name."),
               path, file.errorString());

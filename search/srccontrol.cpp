@@ -464,7 +464,8 @@ void srcControl::ExportRows() {
     if (!alive)
         return;  // behind the box of an export that failed
     SetStatusText(told);
-    ui_->srcProgress->setText(where);
+    if (!where.isEmpty())
+        ui_->srcProgress->setText(where);
 }
 
 }  // namespace docbench

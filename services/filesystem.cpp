@@ -12,6 +12,7 @@
 
 #include "services/docaccess.h"
 #include "services/filecopy.h"
+#include "services/paths.h"
 #include "services/seams.h"
 
 namespace docbench {
@@ -85,6 +86,11 @@ bool IsSameFile(const QString& one, const QString& other) {
     return ::stat(QFile::encodeName(one).constData(), &first) == 0 &&
            ::stat(QFile::encodeName(other).constData(), &second) == 0 &&
            first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
+
+QString PathWithoutLinks(const QString& path) {
+    const QString own = IsWebPath(path) ? QString() : QFileInfo(path).canonicalFilePath();
+    return own.isEmpty() ? path : own;
 }
 
 bool IsReadOnlyFile(const QString& path) {

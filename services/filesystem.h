@@ -29,6 +29,10 @@ FileSystem& Files();
 // Two names of one file. False when one of them is not there.
 bool IsSameFile(const QString& one, const QString& other);
 
+// The path of the file without links in it; of an address, and where there is no such file, the
+// path as it is. Equal for two ways to one file.
+QString PathWithoutLinks(const QString& path);
+
 // A file or folder on the disk without the right to be written. Asked by mode: who may do anything
 // is told of write protection all the same.
 bool IsReadOnlyFile(const QString& path);

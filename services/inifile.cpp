@@ -6,6 +6,8 @@
 #include <QStringDecoder>
 #include <algorithm>
 
+#include "services/wholefile.h"
+
 namespace docbench {
 namespace {
 
@@ -211,7 +213,7 @@ bool IniFile::Save(const QString& path) const {
         return false;
     for (const Line& line : lines_)
         file.write(line.bytes + '\n');
-    return file.commit();
+    return CommitWhole(file);
 }
 
 QStringList IniFile::Names(const QString& section) const {

@@ -145,9 +145,11 @@ void whereUsed::SetPartNameToSearch(const QString& path, const QString&) {
 }
 
 void whereUsed::Findnow() {
+    const QPointer<whereUsed> alive(this);
     if (ui_->wuLookin->hasFocus())
-        ui_->wuFindNow->setFocus();  // leaving the field tests its folders: before anything else
-    if (ui_->wuFindNow->isEnabled())
+        ui_->wuFindNow->setFocus();
+    lookIn_->TestIfLeft();  // before anything else
+    if (alive && ui_->wuFindNow->isEnabled())
         Search();
 }
 
@@ -251,9 +253,10 @@ void whereUsed::SearchLocal(const QString& folder) {
 }
 
 void whereUsed::SearchWeb(const QString& url) {
+    const QPointer<whereUsed> alive(this);
     QString folder;
-    if (!MirrorWebFolder(url, folder))
-        return;
+    if (!MirrorWebFolder(url, folder) || !alive || mStopRequested)
+        return;  // the server may have asked for a password meanwhile
     gWebDocument = true;
     SearchFolders(QDir::cleanPath(folder), url);
 }
@@ -359,7 +362,8 @@ void whereUsed::ExportRows() {
     if (!alive)
         return;  // behind the box of an export that failed
     SetStatusText(told);
-    ui_->wuProgress->setText(where);
+    if (!where.isEmpty())
+        ui_->wuProgress->setText(where);
 }
 
 }  // namespace docbench

@@ -11,6 +11,7 @@
 
 #include "tests/docmodel/documenttools.h"
 #include "tests/docmodel/searchtools.h"
+#include "tests/support/privileges.h"
 #include "tests/support/testenvironment.h"
 
 using namespace docmodel;
@@ -317,6 +318,24 @@ private Q_SLOTS:
                  QStringList({"a.tfmasm 0 gear.tfmprt", "z.tfmasm 0 gear.tfmprt"}));
         QCOMPARE(searcher->GetSearchCounts().documents, 10);
         QCOMPARE(searcher->GetSearchCounts().unread, 8);
+    }
+
+    void AFolderWithoutPermissionCountsAsUnread() {
+        MakeDocument(Path("a.tfmasm"), {Path("gear.tfmprt")});
+        QDir().mkpath(Path("closed"));
+        MakeDocument(Path("closed/b.tfmasm"), {Path("gear.tfmprt")});
+        QVERIFY(QFile::setPermissions(Path("closed"), {}));
+        const int result = InChild([this] {
+            docbench::GiveUpPrivileges();
+            auto searcher = Access().MakeFolderSearcher();
+            QStringList walked;
+            Walk(*searcher, folder_->path(), walked);
+            const docbench::SearchCounts counts = searcher->GetSearchCounts();
+            if (walked.size() != 2 || counts.documents != 1 || counts.unread != 1)
+                throw DocumentError("other counts");
+        });
+        QVERIFY(QFile::setPermissions(Path("closed"), QFile::Permissions(0x7700)));
+        QCOMPARE(result, 0);
     }
 
     void NamesThatAreNoTextAreCounted() {

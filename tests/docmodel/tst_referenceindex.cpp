@@ -1,12 +1,11 @@
 // The reference index: it makes searches faster, and no answer different.
 
 #include <fcntl.h>
-#include <linux/capability.h>
 #include <linux/magic.h>
 #include <signal.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <QDir>
@@ -23,6 +22,7 @@
 #include "docmodel/referencetarget.h"
 #include "tests/docmodel/documenttools.h"
 #include "tests/docmodel/searchtools.h"
+#include "tests/support/privileges.h"
 #include "tests/support/testenvironment.h"
 
 using namespace docmodel;
@@ -44,14 +44,6 @@ FileState StateOfFile(const QString& path) {
 void SetModified(const QString& path, time_t seconds, long nanoseconds = 0) {
     const timespec times[2] = {{seconds, nanoseconds}, {seconds, nanoseconds}};
     utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0);
-}
-
-// From here on this process may write what its modes let it write, even if it is the superuser's.
-void GiveUpPrivileges() {
-    __user_cap_header_struct header = {_LINUX_CAPABILITY_VERSION_3, 0};
-    __user_cap_data_struct capabilities[_LINUX_CAPABILITY_U32S_3] = {};
-    if (syscall(SYS_capset, &header, capabilities) != 0)
-        throw DocumentError("the privileges can't be given up");
 }
 
 // Runs statements on the database of the index, as another program would.
@@ -387,7 +379,7 @@ private Q_SLOTS:
             QFile::setPermissions(folder, QFile::Permissions(0x5555));
         const QByteArray before = FileBytes(GlobalIndexSettings().file);
         const auto search = [this] {
-            GiveUpPrivileges();
+            docbench::GiveUpPrivileges();
             for (int i = 0; i < 2; ++i)
                 if (Find() != QStringList("a.tfmasm 0 gear.tfmprt"))
                     throw DocumentError("another answer");
@@ -450,6 +442,36 @@ private Q_SLOTS:
                 threads.emplace_back(search);
         }
         QCOMPARE(int(rows), kThreads * 3 * kFolders * 40);
+    }
+
+    void SeveralProgramsAtOnceAllGetTheRightAnswer() {
+        constexpr int kPrograms = 4;
+        constexpr int kDocuments = 60;
+        for (int i = 0; i < kDocuments; ++i)
+            MakeDocument(Path(QString("a%1.tfmasm").arg(i)), {Path("gear.tfmprt")});
+        const auto program = [this] {
+            for (int round = 0; round < 5; ++round)
+                if (Find().size() != kDocuments)
+                    throw DocumentError("another answer");
+        };
+        std::vector<pid_t> children;
+        for (int i = 0; i < kPrograms; ++i) {
+            children.push_back(fork());
+            if (children.back() == 0) {
+                try {
+                    program();
+                } catch (const DocumentError&) {
+                    _exit(1);
+                }
+                _exit(0);
+            }
+        }
+        for (const pid_t child : children) {
+            int status = -1;
+            QCOMPARE(waitpid(child, &status, 0), child);
+            QCOMPARE(status, 0);
+        }
+        QCOMPARE(Find().size(), kDocuments);
     }
 
     void initTestCase() { usualFile_ = GlobalIndexSettings().file; }

@@ -86,6 +86,24 @@ class TestRenameTransaction : public QObject {
     }
 
 private Q_SLOTS:
+    // Found by a link first and by its own name after that: one file, which is written twice.
+    void AHolderThatWasFoundThroughALinkAsWellIsWrittenAll() {
+        Project project;
+        const QString holder = project.library.Make("b/extra.tfmasm", {{project.pin}});
+        QDir().mkpath(project.library.Path("a"));
+        QVERIFY(QFile::link(project.library.Path("b"), project.library.Path("a/shared")));
+        project.SearchAgain();
+        int rows = 0;
+        for (const CellRow& row : project.list.Rows())
+            rows += row.cells[1].tag.endsWith("/extra.tfmasm");
+        QCOMPARE(rows, 2);
+        const RenameResult result = project.Run();
+        QCOMPARE(result.failed, 0);
+        const auto file = Project::Documents()->MakeDocumentFile();
+        file->Open(holder);
+        QCOMPARE(file->GetComponent(0, {}).path, project.Plan().newPath);
+    }
+
     void anExternalReferenceIsWrittenInItsOwnTable_data() {
         QTest::addColumn<bool>("asParent");
         QTest::newRow("as a row") << false;

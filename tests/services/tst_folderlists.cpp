@@ -64,6 +64,8 @@ private Q_SLOTS:
                                               << "/plain";
         QTest::newRow("an empty plain value") << " Hollow"
                                               << "/marked";
+        QTest::newRow("both values empty") << "/a; Empty;/b"
+                                           << "/a;/b";
         QTest::newRow("unknown") << "/a; Unknown;/b"
                                  << "/a;/b";
         QTest::newRow("wherever it occurs") << " Both;/x Bothy"
@@ -89,6 +91,8 @@ private Q_SLOTS:
         Store("Hollow", "");
         Store("Hollow TDB-Key", "/marked");
         Store("Nested TDB-Key", " Parts");
+        Store("Empty", "");
+        Store("Empty TDB-Key", "");
         const SettingsAccess access;
         QTEST(ExpandFolderList(text), "expanded");
     }

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "services/settingsstore.h"
+#include "tests/support/smallfiles.h"
 #include "tests/support/testenvironment.h"
 
 using docbench::SettingsKey;
@@ -255,6 +256,18 @@ private Q_SLOTS:
             QVERIFY(!before->Delete("x"));
             QCOMPARE(Content(), content);
         }
+    }
+
+    void AFullDiskCostsNoValue() {
+        const auto key = OpenUser();
+        QVERIFY(key->SetText("x", "1"));
+        const QByteArray before = Content();
+        for (const rlim_t room : {rlim_t(0), rlim_t(4), rlim_t(before.size())}) {
+            const docbench::SmallFiles full(room);
+            QVERIFY(!key->SetText("y", "a value that needs some room"));
+            QCOMPARE(Content(), before);
+        }
+        QVERIFY(key->SetText("y", "2"));
     }
 
     void AFolderInPlaceOfTheFileIsAStoreThatCantBeRead() {

@@ -42,7 +42,7 @@ public:
         started.append(file);
         calls.append(
             QStringList{verb, file, parameters, folder, QString::number(showCommand)}.join(u'|'));
-        return true;
+        return knows;
     }
     bool StartProgram(const QString& program, const QStringList&) override {
         started.append(program);
@@ -51,6 +51,7 @@ public:
 
     QStringList started;
     QStringList calls;  // of Execute, with all that it was given
+    bool knows = true;  // a program for the file
 };
 
 }  // namespace docbench

@@ -84,6 +84,8 @@ std::optional<Dialogs::Password> TestDialogs::AskPassword(const QString& server,
 }
 
 TestDialogs::Expected TestDialogs::Take(Kind kind, const QString& what) {
+    if (const auto action = std::exchange(meanwhile_, {}))
+        action();
     if (!expected_.isEmpty() && expected_.first().kind == kind)
         return expected_.takeFirst();
     QTest::qFail(qPrintable(QStringLiteral("unexpected dialog: ") + what), __FILE__, __LINE__);

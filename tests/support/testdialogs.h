@@ -3,6 +3,7 @@
 
 #include <QList>
 #include <QString>
+#include <functional>
 
 #include "services/dialogs.h"
 
@@ -22,6 +23,8 @@ public:
     void ExpectBrowseFolder(const QString& answer);
     // The password dialog comes next; none stands for its cancel.
     void ExpectPassword(const std::optional<Password>& answer);
+    // What happens while the next dialog, of any kind, is on screen.
+    void Meanwhile(std::function<void()> action) { meanwhile_ = std::move(action); }
     bool AllCame() const { return expected_.isEmpty(); }
     const QString& LastTitle() const { return lastTitle_; }    // of the last dialog of any kind
     const QString& LastDetail() const { return lastDetail_; }  // of the last box
@@ -48,6 +51,7 @@ private:
     Expected Take(Kind kind, const QString& what);
 
     QList<Expected> expected_;
+    std::function<void()> meanwhile_;
     QList<std::optional<Password>> passwords_;
     QString lastTitle_;
     QString lastDetail_;

@@ -131,6 +131,10 @@ private Q_SLOTS:
     void stoppingKeepsTheRowsAndCountsThem();
     void inputIsDisabledWhileASearchRuns();
     void aNewDocumentStopsTheSearch();
+    void thePaneMayGoAwayBehindADialog_data();
+    void thePaneMayGoAwayBehindADialog();
+    void aPaneThatEndsTestsNoFolders();
+    void theProgressIsShownMeanwhile();
     void thePaneMayGoAwayDuringASearch();
     void thePaneMayGoAwayDuringASearchByKey();
     void aSearchByKeyTestsItsFoldersFirst();
@@ -462,6 +466,72 @@ void TestWhereUsed::thePaneMayGoAwayDuringASearchByKey() {
     QCOMPARE(bench.access.folders.queries.size(), 1);
 }
 
+void TestWhereUsed::thePaneMayGoAwayBehindADialog_data() {
+    QTest::addColumn<QString>("which");
+    for (const char* which : {"leaving the field", "return in the field", "browsing",
+                              "a search that fails", "an export that fails"})
+        QTest::newRow(which) << which;
+}
+
+void TestWhereUsed::thePaneMayGoAwayBehindADialog() {
+    QFETCH(QString, which);
+    Bench bench;
+    bench.dialogs.Meanwhile([&] { bench.pane.reset(); });
+    bench.Name()->setText("gear");
+    if (which == "browsing") {
+        bench.dialogs.ExpectBrowseFolder(bench.root);
+        QMetaObject::invokeMethod(bench.Child<QPushButton>("wuBrowse"), "click");
+    } else if (which == "an export that fails") {
+        FakeSpreadsheet spreadsheet;
+        spreadsheet.fails = true;
+        bench.Add(bench.root, bench.root + "/a.tfmasm", bench.root + "/gear.tfmprt");
+        bench.LookIn()->setText(bench.root);
+        bench.pane->Findnow();
+        bench.dialogs.Expect("*", Dialogs::Icon::None);
+        QMetaObject::invokeMethod(bench.pane->findChild<QAction*>("mnexport"), "trigger");
+    } else if (which == "a search that fails") {
+        bench.LookIn()->setText(bench.library.Make("pin.tfmprt"));
+        bench.dialogs.Expect("*");
+        bench.pane->Findnow();
+    } else {
+        bench.LookIn()->setFocus();
+        bench.LookIn()->setText("/nowhere");
+        bench.dialogs.Expect(Format(Text::FoldersNotFound, "/nowhere"));
+        QLineEdit* field = bench.LookIn();
+        if (which == "leaving the field")
+            bench.Name()->setFocus();
+        else
+            QTest::keyClick(field, Qt::Key_Return);
+        QCoreApplication::processEvents();
+    }
+    QVERIFY(!bench.pane);
+    QVERIFY(bench.dialogs.AllCame());
+}
+
+// Its end is no leaving of the field: nobody is asked anything.
+void TestWhereUsed::aPaneThatEndsTestsNoFolders() {
+    Bench bench;
+    bench.LookIn()->setFocus();
+    bench.LookIn()->setText("/nowhere");
+    bench.pane.reset();
+}
+
+void TestWhereUsed::theProgressIsShownMeanwhile() {
+    Bench bench;
+    bench.access.folders.subfolders = {{bench.root, {bench.root + "/a"}}};
+    bench.Add(bench.root, bench.root + "/a.tfmasm", bench.root + "/gear.tfmprt");
+    QString progress;
+    bench.access.folders.onSearch = [&](const QString& folder) {
+        if (folder.endsWith("/a"))
+            progress = bench.Child<QLabel>("wuProgress")->text();
+    };
+    bench.Name()->setText("gear");
+    bench.LookIn()->setText(bench.root);
+    bench.pane->Findnow();
+    QVERIFY2(progress.contains(Format(Text::DocumentsLookedAt, 1)), qPrintable(progress));
+    QVERIFY2(progress.contains(Format(Text::HoldersFound, 1)), qPrintable(progress));
+}
+
 void TestWhereUsed::thePaneMayGoAwayDuringASearch() {
     Bench bench;
     bench.access.folders.subfolders = {{bench.root, {bench.root + "/a"}}};
@@ -546,6 +616,7 @@ void TestWhereUsed::leavingTheFieldTestsTheFolders() {
     bench.LookIn()->setText(" Vendors;/nowhere;" + bench.root + ";;/none");
     bench.dialogs.Expect(Format(Text::FoldersNotFound, "/nowhere;;/none"));
     bench.Name()->setFocus();
+    QCoreApplication::processEvents();
     QVERIFY(bench.dialogs.AllCame());
     QCOMPARE(bench.LookIn()->text(), " Vendors;" + bench.root);
     bench.LookIn()->setFocus();
