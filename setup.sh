@@ -12,7 +12,8 @@ packages=(
     fonts-dejavu-core
 )
 if [ "${1:-}" = tests ]; then
-    packages+=(python3 unzip zip dbus dbus-daemon attr apache2-bin openssl curl ugrep)
+    packages+=(python3 unzip zip dbus dbus-daemon attr apache2-bin openssl curl ugrep
+        desktop-file-utils appstream libxml2-utils shared-mime-info man-db zsh)
 fi
 
 missing=()

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QIcon>
 #include <QTextStream>
 #include <QTimer>
 
@@ -31,6 +32,9 @@ int WriteScreenshot(MainWindow& window, const QString& file) {
 int RunWindow(int argc, char* argv[], const CommandLine& line) {
     QApplication application(argc, argv);
     QApplication::setApplicationVersion(QLatin1String(kVersion));
+    // The name of the desktop entry: docks and switchers take the icon from there.
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.tessaforma.Docbench"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/pictures/docbench.svg")));
     ApplyTheme(line.theme);
     const DesktopSeams seams;
     const bool endsAlone = line.quitWhenShown || !line.screenshot.isEmpty();

@@ -7,8 +7,9 @@ set(CMAKE_AUTORCC ON)
 
 # The interfaces of the document library: headers alone.
 add_library(docaccess INTERFACE)
-target_include_directories(docaccess INTERFACE ${PROJECT_SOURCE_DIR})
-target_link_libraries(docaccess INTERFACE Qt6::Core Qt6::Gui docbench_flags)
+target_include_directories(docaccess INTERFACE
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:${DOCBENCH_HEADERS}>)
+target_link_libraries(docaccess INTERFACE Qt6::Core Qt6::Gui $<BUILD_INTERFACE:docbench_flags>)
 
 # The settings store, which both the program and the document library read and write.
 add_library(docbench_settings STATIC)
@@ -22,7 +23,6 @@ set_target_properties(docbench_settings PROPERTIES
 add_library(docbench_core SHARED)
 set_target_properties(docbench_core PROPERTIES
     CXX_VISIBILITY_PRESET default VISIBILITY_INLINES_HIDDEN OFF)
-target_include_directories(docbench_core PUBLIC ${PROJECT_SOURCE_DIR})
 target_link_libraries(docbench_core
     PUBLIC docaccess Qt6::Core Qt6::Gui
     PRIVATE "$<LINK_LIBRARY:WHOLE_ARCHIVE,docbench_settings>")
@@ -39,6 +39,9 @@ target_link_libraries(docbench_controls_objects
 target_precompile_headers(docbench_controls_objects PRIVATE <QtWidgets>)
 
 add_library(docbench_controls SHARED)
+set_target_properties(docbench_core PROPERTIES EXPORT_NAME Core)
+set_target_properties(docbench_controls PROPERTIES EXPORT_NAME Controls)
+set_target_properties(docaccess PROPERTIES EXPORT_NAME DocAccess)
 target_link_libraries(docbench_controls
     PUBLIC docbench_core Qt6::Widgets
-    PRIVATE docbench_controls_objects)
+    PRIVATE $<BUILD_INTERFACE:docbench_controls_objects>)

@@ -21,6 +21,7 @@ target_sources(docmodel_core PRIVATE
     opc.cpp
     parallel.cpp
     picture.cpp
+    preview.cpp
     previewextractorobject.cpp
     propertyfolder.cpp
     propertyqueryobject.cpp

@@ -1,6 +1,5 @@
 #include "platform/componentplugins.h"
 
-#include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
 #include <QJsonObject>
@@ -8,6 +7,7 @@
 #include <QPluginLoader>
 
 #include "services/component.h"
+#include "services/programfolder.h"
 
 namespace docbench {
 namespace {
@@ -25,7 +25,7 @@ QString ProgramIdOf(const QPluginLoader& plugin) {
 }  // namespace
 
 QString ComponentFolder() {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/components");
+    return ProgramFolder() + QStringLiteral("/components");
 }
 
 std::unique_ptr<QObject> CreateComponent(const QString& folder, const QString& programId) {

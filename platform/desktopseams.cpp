@@ -8,6 +8,7 @@
 #include "platform/windowtexts.h"
 #include "platform/xlsxspreadsheet.h"
 #include "services/documentlibrary.h"
+#include "services/programfolder.h"
 
 namespace docbench {
 
@@ -30,7 +31,7 @@ DesktopSeams::DesktopSeams() : parts_(std::make_unique<Parts>()), former_(gSeams
               .outside = &parts_->outside,
               .shell = &parts_->shell,
               .spreadsheet = &parts_->spreadsheet};
-    parts_->texts.Load(QCoreApplication::applicationDirPath());
+    parts_->texts.Load(ProgramFolder());
 }
 
 DesktopSeams::~DesktopSeams() {

@@ -1,9 +1,9 @@
 #include "services/documentlibrary.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
+#include "services/programfolder.h"
 #include "services/seams.h"
 
 namespace docbench {
@@ -23,7 +23,7 @@ QString& LastError() {
 
 }  // namespace
 
-DocumentLibrary::DocumentLibrary() : DocumentLibrary(QCoreApplication::applicationDirPath()) {}
+DocumentLibrary::DocumentLibrary() : DocumentLibrary(ProgramFolder()) {}
 
 DocumentLibrary::DocumentLibrary(const QString& folder) {
     const QString file = QDir(folder).filePath(QLatin1String(kFileName));

@@ -1,12 +1,12 @@
 #include "services/language.h"
 
-#include <QCoreApplication>
 #include <QTranslator>
 
 #include "services/dialogs.h"
 #include "services/documentlibrary.h"
 #include "services/errorstate.h"
 #include "services/localefont.h"
+#include "services/programfolder.h"
 #include "services/seams.h"
 #include "services/texts.h"
 
@@ -83,7 +83,7 @@ void Load(const QString& programFolder) {
 }  // namespace
 
 void LoadResources() {
-    LoadResources(QCoreApplication::applicationDirPath());
+    LoadResources(ProgramFolder());
 }
 
 void LoadResources(const QString& programFolder) {

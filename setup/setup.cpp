@@ -1,6 +1,5 @@
 #include "setup/setup.h"
 
-#include <QCoreApplication>
 #include <QShowEvent>
 #include <algorithm>
 
@@ -9,6 +8,7 @@
 #include "services/language.h"
 #include "services/languagechoice.h"
 #include "services/openexternal.h"
+#include "services/programfolder.h"
 #include "services/seams.h"
 #include "services/texts.h"
 #include "setup/folderlisteditor.h"
@@ -98,7 +98,7 @@ void setup::ConnectControls() {
 
 void setup::FillLanguages() {
     ui_->cmbLanguage->addItem(tr("As the desktop"), QString());
-    for (const OfferedLanguage& language : OfferedLanguages(QCoreApplication::applicationDirPath()))
+    for (const OfferedLanguage& language : OfferedLanguages(ProgramFolder()))
         ui_->cmbLanguage->addItem(language.name, language.folder);
 }
 
