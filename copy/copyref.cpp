@@ -60,7 +60,6 @@ copyRef::copyRef(QWidget* parent) : Pane(parent), ui_(std::make_unique<Ui::copyR
     InitPaneTexts();
     ApplyLanguageFonts(*this);
     ConnectControls();
-    sinceDrawn_.start();
     EnablePaneControls(false);
     ShowTargetControls(false);
     ShowLists();
@@ -257,7 +256,7 @@ void copyRef::BuildCopyList(const QString& path) {
 
 // Drawn at once, since events run only where they are told to, but not for every single file.
 void copyRef::ShowStep(const QString& text) {
-    if (sinceDrawn_.elapsed() < kDrawEvery)
+    if (sinceDrawn_.isValid() && !sinceDrawn_.hasExpired(kDrawEvery))
         return;
     sinceDrawn_.start();
     drawn_ = true;
@@ -460,6 +459,7 @@ void copyRef::CarryOut() {
          std::initializer_list<QWidget*>{ui_->cmdReplace, ui_->selectall, ui_->lv_0, ui_->lv_1})
         control->setEnabled(false);
     const QPointer<copyRef> alive(this);
+    sinceDrawn_.invalidate();  // the first step is shown at once
     CopyResult result;
     ErrorState errors;
     {

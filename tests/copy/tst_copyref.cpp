@@ -384,6 +384,22 @@ private Q_SLOTS:
         QCOMPARE(bench.status.caption, Format(Text::CopyDone, 3, 0));
     }
 
+    void theProgressNamesTheDocumentAndCounts() {
+        CopyBench bench;
+        bench.Load();
+        QString progress;
+        AnsweringDialogs dialogs;
+        bench.library.Make("new/x_top.tfmasm");
+        dialogs.answer = [&](const QString&) {
+            progress = bench.Child<QLabel>("lblProgress")->text();
+            return Dialogs::Answer::No;
+        };
+        bench.Click("apply");
+        QVERIFY2(progress.contains("x_top.tfmasm"), qPrintable(progress));
+        QVERIFY2(progress.startsWith("1 / "), qPrintable(progress));
+        QCOMPARE(bench.Child<QLabel>("lblProgress")->text(), QString());
+    }
+
     void prefixOrSuffixWaitsForTheEndOfASearch() {
         CopyBench bench;
         bench.Load();
