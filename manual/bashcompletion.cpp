@@ -24,7 +24,7 @@ QString NameOf(WordKind kind, const QString& value) {
         case WordKind::NewName:
             return QStringLiteral("text");
         case WordKind::Choice:
-            return value;
+            return value.contains(u'|') ? value : value + u'|';
         case WordKind::File:
             break;
     }

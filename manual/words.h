@@ -9,17 +9,18 @@ namespace manual {
 enum class WordKind {
     Document,  // a part, assembly or drawing
     Folder,
-    Choice,   // one of the words that are separated by "|"
+    Choice,   // typed as it stands; several are separated by "|"
     NewName,  // a text that is nowhere yet
     File,     // anything else
 };
 
-// Of a word that stands for an argument of a command, such as "FILE..." or "[NAME".
+// Of a word that ArgumentsOf gives.
 WordKind KindOfArgument(const QString& word);
 // Of an option's value, such as "FOLDER".
 WordKind KindOfValue(const QString& value);
 
-// The words of a usage without the options: "FILE", "NEWNAME".
+// What stands at each position of a usage, without options and brackets: "FILE", "NEWNAME..."; of
+// alternatives, the words that are typed as they stand: "rename|delete".
 QStringList ArgumentsOf(const QString& usage);
 
 // The extensions of documents, in lower case.

@@ -61,7 +61,7 @@ QString OptionRule(const HelpEntry& option) {
 
 QString ArgumentRule(const QString& word, int position) {
     const QString name =
-        QString(word).remove(u'[').remove(u']').remove(QLatin1String("...")).toLower();
+        QString(word).remove(QLatin1String("...")).replace(u'|', QLatin1String(" or ")).toLower();
     const bool repeats = word.contains(QLatin1String("..."));
     return Quoted(QStringLiteral("%1:%2:%3")
                       .arg(repeats ? QStringLiteral("*") : QString::number(position), name,

@@ -62,6 +62,12 @@ private Q_SLOTS:
         QCOMPARE(Bash({"docmodel", "check", "a.tfmprt", "b.tfmprt", "Box\\ w"}),
                  QStringList({"Box with lid.TFMASM"}));
         QCOMPARE(Bash({"docbench", "tree", "'Box w"}), QStringList({"Box with lid.TFMASM"}));
+        // Words that are typed as they stand.
+        QCOMPARE(Bash({"docbench", "configurations", "bolt.tfmprt", ""}),
+                 QStringList({"delete", "rename"}));
+        QCOMPARE(Bash({"docbench", "hyperlinks", "bolt.tfmprt", ""}), QStringList("change"));
+        QCOMPARE(Bash({"docbench", "configurations", "bolt.tfmprt", "delete", "bo"}),
+                 QStringList());
         // The new name is nowhere yet, and a tree takes one document.
         QCOMPARE(Bash({"docbench", "rename", "bolt.tfmprt", "bo"}), QStringList());
         QCOMPARE(Bash({"docbench", "tree", "bolt.tfmprt", "bo"}), QStringList());
@@ -103,6 +109,9 @@ private Q_SLOTS:
         QTest::newRow("folder") << "docbench where-used --in bo"
                                 << "bolts"
                                 << "bolt.tfmprt";
+        QTest::newRow("word") << "docbench configurations bolt.tfmprt re"
+                              << "rename"
+                              << "bolts";
         QTest::newRow("other program") << "docmodel lock --references "
                                        << "on"
                                        << "bolts";
