@@ -58,6 +58,9 @@ DocumentInfoObject::State& DocumentInfoObject::Bound() {
 
 void DocumentInfoObject::SetField(SummaryField field, const QString& text) {
     State& state = Bound();
+    // Also when it holds what no document should: others have written it.
+    if (text == state.summary[size_t(field)])
+        return;
     RequireXmlText(text, path_.given, NameOf(field));
     const QString stored = WithXmlLineEnds(text);
     const QString& atOpen = state.summaryAtOpen[size_t(field)];

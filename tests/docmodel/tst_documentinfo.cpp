@@ -65,6 +65,27 @@ private Q_SLOTS:
         DocumentBuilder::New(path_, DocumentBuilder::IfThere::Replace).Save();
     }
 
+    // Others may have stored what a text must not hold; what is edited beside it can be saved.
+    void ATextThatIsGivenBackIsNotChecked() {
+        const QString foreign = QString("odd") + QChar(0xFFFE);
+        PackageWriter::Create(
+            path_,
+            {{"docProps/core.xml",
+              "<coreProperties xmlns='http://schemas.openxmlformats.org/package/2006/metadata/"
+              "core-properties' xmlns:dc='http://purl.org/dc/elements/1.1/'><dc:description>" +
+                  foreign.toUtf8() + "</dc:description></coreProperties>"}},
+            true);
+        const auto info = OpenInfo(path_);
+        QCOMPARE(info->GetComments(), foreign);
+        info->SetComments(foreign);
+        QVERIFY_THROWS_EXCEPTION(docbench::DocumentError, info->SetComments(foreign + "x"));
+        QVERIFY_THROWS_EXCEPTION(docbench::DocumentError, info->SetSubject(foreign));
+        info->SetTitle("Dowel");
+        info->Save();
+        QCOMPARE(OpenInfo(path_)->GetComments(), foreign);
+        QCOMPARE(OpenInfo(path_)->GetTitle(), QString("Dowel"));
+    }
+
     void TheSummaryIsStored() {
         const auto info = OpenInfo(path_);
         info->SetTitle("Title <1>");
