@@ -3,7 +3,6 @@
 #include <QMenu>
 
 #include "editors/configurationtree.h"
-#include "editors/pendinguploads.h"
 #include "frame/desccontrol.h"
 #include "services/dialogs.h"
 #include "services/docaccess.h"
@@ -95,7 +94,6 @@ void editConfig::UpdateButtons() {
 
 void editConfig::SetPartName(const QString& displayName, const QString& path) {
     configurations_->Clear();
-    ForgetGivenUpCopies();
     partDisplayName = displayName;
     partfilename = path;
     UpdateButtons();
@@ -178,7 +176,7 @@ bool editConfig::Write() {
     const QList<ConfigurationEdit> edits = configurations_->Edits();
     if (!edits.isEmpty())
         SaveConfigurations(localPath, *configDocument, edits, partfilename);
-    return (edits.isEmpty() && !IsUploadPending(partfilename)) || UploadSaved(partfilename, url);
+    return (edits.isEmpty() && !IsUploadPending(partfilename)) || UploadIfWeb(url);
 }
 
 }  // namespace docbench

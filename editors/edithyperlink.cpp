@@ -1,7 +1,6 @@
 #include "editors/edithyperlink.h"
 
 #include "editors/hyperlinktree.h"
-#include "editors/pendinguploads.h"
 #include "frame/desccontrol.h"
 #include "services/dialogs.h"
 #include "services/docaccess.h"
@@ -84,7 +83,6 @@ void EditHyperLink::UpdateButtons() {
 
 void EditHyperLink::SetPartName(const QString& displayName, const QString& path) {
     hyperlinks_->Clear();
-    ForgetGivenUpCopies();
     partDisplayName = displayName;
     partfilename = path;
     UpdateButtons();
@@ -139,7 +137,7 @@ void EditHyperLink::Save() {
 bool EditHyperLink::Write() {
     const QString url = UrlToUpload(partfilename, localPath);
     const bool changed = hyperlinks_->Save(localPath, *hyperlinkDocument, partfilename);
-    return (!changed && !IsUploadPending(partfilename)) || UploadSaved(partfilename, url);
+    return (!changed && !IsUploadPending(partfilename)) || UploadIfWeb(url);
 }
 
 }  // namespace docbench

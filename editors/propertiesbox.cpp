@@ -3,7 +3,6 @@
 #include <QSignalBlocker>
 #include <limits>
 
-#include "editors/pendinguploads.h"
 #include "editors/propertyrows.h"
 #include "editors/propertysave.h"
 #include "frame/desccontrol.h"
@@ -103,8 +102,10 @@ void PropertiesBox::ConnectControls() {
     connect(ui_->TabStrip1, &QTabWidget::currentChanged, this, &PropertiesBox::OnTabChanged);
     connect(ui_->ApplyButton, &QPushButton::clicked, this, &PropertiesBox::Apply);
     connect(ui_->resetbutton, &QPushButton::clicked, this, [this] {
+        const QPointer<PropertiesBox> self = this;
         populateSummary(partfilename);
-        FocusByTab();
+        if (self)
+            FocusByTab();
     });
 }
 
@@ -167,19 +168,25 @@ void PropertiesBox::populateSummary(const QString& path) {
         Warn(Format(Text::PropertiesLoadError, errors.Description()));
 }
 
-void PropertiesBox::Load(const QString& path) {
-    ForgetGivenUpCopies();
+// The path is a text of its own, as `partfilename` may become another's behind a password box.
+void PropertiesBox::Load(QString path) {
+    ++loads_;
+    const Loaded loaded(this);
+    lostUploads_ = LostUploads(path);
     partfilename = path;
     Blank();
+    const QString local = LocalCopyOf(path);
+    if (loaded.IsOver())
+        return;
     const auto info = Documents().MakeDocumentInfo();
-    if (!info->Open(LocalCopyOf(path))) {
-        Warn(Tr(Text::NoProperties));
-        return SetStatusText(Format(Text::NoPropertiesOf, path));
+    if (!info->Open(local)) {
+        SetStatusText(Format(Text::NoPropertiesOf, path));
+        return Warn(Tr(Text::NoProperties));
     }
     FillSummary(*info);
     ui_->customSet->Load(*info, path);
     customStamp_ = info->GetStamp(PropertyGroup::Custom);
-    ListConfigurations();
+    ListConfigurations(local);
     populated = true;
     if (IsUploadPending(path))
         EnableButtons();
@@ -227,9 +234,9 @@ void PropertiesBox::ShowLastSave(DocumentInfo& info) {
     ui_->labLastsaved->setText(info.GetLastSaved());
 }
 
-void PropertiesBox::ListConfigurations() {
+void PropertiesBox::ListConfigurations(const QString& local) {
     const auto file = Documents().MakeDocumentFile();
-    file->Open(LocalCopyOf(partfilename));
+    file->Open(local);
     const QSignalBlocker blocker(ui_->List1);
     const int count = file->GetConfigurationCount();
     for (int index = 0; index < count; ++index)
@@ -251,7 +258,11 @@ void PropertiesBox::OnConfigurationPicked() {
     }
     if (index < 0 || index == currentConfiguration)
         return;
-    if (currentConfiguration >= 0 && configDirty && !LeaveConfiguration()) {
+    const Loaded loaded(this);
+    const bool stays = currentConfiguration >= 0 && configDirty && !LeaveConfiguration();
+    if (loaded.IsOver())
+        return;
+    if (stays) {
         const QSignalBlocker blocker(ui_->List1);
         ui_->List1->setCurrentRow(currentConfiguration);
         return;
@@ -263,10 +274,14 @@ void PropertiesBox::OnConfigurationPicked() {
         Warn(Format(Text::ConfigurationPropertiesError, errors.Description()));
 }
 
-// False when the edits could not be written: they stay with their configuration.
+// False when the edits could not be written: they stay with their configuration. No word of it when
+// the document is another's by then.
 bool PropertiesBox::LeaveConfiguration() {
+    const Loaded loaded(this);
     const Dialogs::Answer answer = gSeams.dialogs->Box(
         Tr(Text::LeaveConfiguration), Dialogs::Icon::None, gAppTitle, Dialogs::Buttons::YesNo);
+    if (loaded.IsOver())
+        return false;
     if (answer != Dialogs::Answer::Yes) {
         configDirty = false;
         return true;
@@ -279,11 +294,15 @@ bool PropertiesBox::LeaveConfiguration() {
 }
 
 std::unique_ptr<DocumentInfo> PropertiesBox::OpenConfiguration(int index) const {
-    return OpenConfigurationSet(partfilename, index, ui_->List1->item(index)->text());
+    const QString path = partfilename;  // a text of its own, as in Load
+    return OpenConfigurationSet(path, index, ui_->List1->item(index)->text());
 }
 
 void PropertiesBox::ShowConfiguration(int index) {
+    const Loaded loaded(this);
     const auto set = OpenConfiguration(index);
+    if (loaded.IsOver())
+        return;
     if (!set)
         return Warn(Tr(Text::NoConfigurationProperties));
     ui_->configSet->Load(*set, partfilename);
@@ -303,8 +322,12 @@ void PropertiesBox::Apply() {
 }
 
 void PropertiesBox::WriteEdits() {
+    RequireNoLostUploads(partfilename, lostUploads_);
+    const Loaded loaded(this);
     const int configuration = PickedConfiguration();
     if (configDirty && configuration >= 0 && !WriteConfiguration(configuration))
+        return;
+    if (loaded.IsOver())
         return;
     if (summaryDirty || customDirty)
         WriteDocument();
@@ -315,7 +338,11 @@ void PropertiesBox::WriteEdits() {
 // The flags are cleared when all is on the disk, so that whatever fails can be tried again. False
 // when the server has not taken the document, which the upload has told.
 bool PropertiesBox::WriteConfiguration(int index) {
+    RequireNoLostUploads(partfilename, lostUploads_);
+    const Loaded loaded(this);
     const auto set = OpenConfiguration(index);
+    if (loaded.IsOver())
+        return false;
     if (!set)
         throw DocumentError(QStringLiteral("The configuration %1 is no longer in %2. Load the "
                                            "document again.")
@@ -323,14 +350,19 @@ bool PropertiesBox::WriteConfiguration(int index) {
     SaveConfigurationSet(*set, {ui_->configSet->List(), deletedConfigNames, configStamp_},
                          partfilename);
     configStamp_ = set->GetStamp(PropertyGroup::Custom);
+    ui_->configSet->TakeNames(*set);
     deletedConfigNames.clear();
     configDirty = false;
     return Upload();
 }
 
 void PropertiesBox::WriteDocument() {
+    const Loaded loaded(this);
+    const QString local = LocalCopyOf(partfilename);
+    if (loaded.IsOver())
+        return;
     const auto info = Documents().MakeDocumentInfo();
-    if (!info->Open(LocalCopyOf(partfilename)))
+    if (!info->Open(local))
         return Warn(Format(Text::PropertiesNotOpened, partfilename));
     const SummaryEdits typed = TypedSummary();
     DocumentEdits edits{.summaryStamp = summaryStamp_};
@@ -342,20 +374,24 @@ void PropertiesBox::WriteDocument() {
     TakeAsRead(*info, HasEdits(typed));
     summaryDirty = customDirty = false;
     Upload();
-    ShowLastSave(*info);
+    if (!loaded.IsOver())
+        ShowLastSave(*info);
 }
 
-// False when the server has not taken what is saved. Raises when its local copy was given up since.
+// False when the server has not taken what is saved. A document may have been opened as the local
+// copy itself.
 bool PropertiesBox::Upload() {
-    return UploadSaved(partfilename, UrlToUpload(partfilename, gWebCopies.value(partfilename)));
+    return UploadIfWeb(UrlToUpload(partfilename, gWebCopies.value(partfilename, partfilename)));
 }
 
 // What was not written keeps its stamp: the pane still shows it as it was read.
 void PropertiesBox::TakeAsRead(DocumentInfo& saved, bool summaryTyped) {
     if (summaryTyped)
         summaryStamp_ = saved.GetStamp(PropertyGroup::Summary);
-    if (customDirty)
+    if (customDirty) {
         customStamp_ = saved.GetStamp(PropertyGroup::Custom);
+        ui_->customSet->TakeNames(saved);
+    }
     for (int field = 0; field < kSummaryFields; ++field)
         untouched_[size_t(field)] = TextOf(SummaryField(field));
     deletedCustomNames.clear();

@@ -2,6 +2,7 @@
 // the properties of its configurations.
 #pragma once
 
+#include <QPointer>
 #include <QStringList>
 #include <array>
 #include <memory>
@@ -39,6 +40,18 @@ public:
     QString HelpTopic() const override;
 
 private:
+    // The document that is loaded. To be asked behind every box, a password's among them: the pane
+    // may have got another document meanwhile, or be gone.
+    class Loaded {
+    public:
+        explicit Loaded(const PropertiesBox* pane) : pane_(pane), load_(pane->loads_) {}
+        bool IsOver() const { return !pane_ || pane_->loads_ != load_; }
+
+    private:
+        QPointer<const PropertiesBox> pane_;
+        int load_;
+    };
+
     void SetCaptions();
     void ConnectControls();
     void OnSummaryChanged();
@@ -46,11 +59,11 @@ private:
     void FocusByTab();
     void EnableButtons();
 
-    void Load(const QString& path);
+    void Load(QString path);
     void Blank();
     void FillSummary(DocumentInfo& info);
     void ShowLastSave(DocumentInfo& info);
-    void ListConfigurations();
+    void ListConfigurations(const QString& local);
 
     int PickedConfiguration() const;  // -1 for none
     void OnConfigurationPicked();
@@ -77,6 +90,8 @@ private:
     QStringList deletedConfigNames;
     int currentConfiguration = -1;
     bool populated = false;
+    int loads_ = 0;
+    int lostUploads_ = 0;  // of the document when it was loaded
     bool showDesc_ = true;
 
     // As they were read or last written: what differs on the disk is somebody else's work.

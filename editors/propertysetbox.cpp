@@ -1,6 +1,7 @@
 #include "editors/propertysetbox.h"
 
 #include <QLineEdit>
+#include <QPointer>
 #include <QRegularExpressionValidator>
 #include <limits>
 
@@ -74,7 +75,9 @@ void PropertySetBox::ConnectControls() {
     connect(ui_->Name1, &QComboBox::activated, this, &PropertySetBox::OnNamePicked);
     connect(ui_->type1, &QComboBox::currentIndexChanged, this, &PropertySetBox::OnTypePicked);
     connect(ui_->Value1, &QLineEdit::textChanged, this, &PropertySetBox::UpdateAdd);
-    connect(ui_->Value1, &QLineEdit::returnPressed, ui_->Add1, &QPushButton::click);
+    // Later, as the field must not go away in the midst of its key behind a box of Add1.
+    connect(ui_->Value1, &QLineEdit::returnPressed, ui_->Add1, &QPushButton::click,
+            Qt::QueuedConnection);
     for (QRadioButton* option : {ui_->OptionYes, ui_->OptionNo})
         connect(option, &QRadioButton::clicked, this, &PropertySetBox::UpdateAdd);
     connect(ui_->Add1, &QPushButton::clicked, this, &PropertySetBox::Add);
@@ -87,9 +90,13 @@ CellList& PropertySetBox::List() {
 
 void PropertySetBox::Load(DocumentInfo& set, const QString& document) {
     LoadPropertyRows(List(), set);
-    stored_ = PropertyNames(set);
+    TakeNames(set);
     document_ = document;
     ui_->lv1->FitColumns();
+}
+
+void PropertySetBox::TakeNames(DocumentInfo& saved) {
+    stored_ = PropertyNames(saved);
 }
 
 void PropertySetBox::FocusName() {
@@ -173,9 +180,12 @@ void PropertySetBox::Add() {
     if (!CanEdit(name))
         return;
     if (!FitsType(ui_->Value1->text(), Type())) {
+        const QPointer<QLineEdit> value = ui_->Value1;  // it may go away behind the box
         gSeams.dialogs->Box(Tr(Text::ValueOfOtherType), Dialogs::Icon::Exclamation, gAppTitle);
-        ui_->Value1->setFocus();
-        ui_->Value1->setSelection(0, kLongestSelection);
+        if (!value)
+            return;
+        value->setFocus();
+        value->setSelection(0, kLongestSelection);
         return;
     }
     if (ui_->Value1->isHidden())

@@ -25,6 +25,8 @@ public:
     CellList& List();
     // Lists the properties of a set; `document` names it in error texts.
     void Load(DocumentInfo& set, const QString& document);
+    // Takes over which names the set has, by which an edit is allowed. To be called after a save.
+    void TakeNames(DocumentInfo& saved);
     void ClearInput();  // the fields for one property
     void FocusName();
 

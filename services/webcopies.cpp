@@ -19,6 +19,11 @@ std::unique_ptr<WebFolderListing> gWebListing;
 
 namespace {
 
+// Address to local copy of what a server has not taken yet.
+QHash<QString, QString> gPendingUploads;
+// By address and by local copy.
+QHash<QString, int> gLostUploads;
+
 const char* const kDocumentExtensions[] = {"PRT", "ASM", "DRW", "TFMASM", "TFMPRT", "TFMDRW"};
 
 bool IsDocument(const QString& name) {
@@ -46,6 +51,36 @@ bool Replace(const QString& from, const QString& to) {
     return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
 }
 
+// The address to which a table of copies has a local file; empty for none.
+QString AddressIn(const QHash<QString, QString>& copies, const QString& local) {
+    const QString wanted = QDir::cleanPath(local);
+    for (auto copy = copies.cbegin(); copy != copies.cend(); ++copy)
+        if (QDir::cleanPath(*copy) == wanted)
+            return copy.key();
+    return {};
+}
+
+void LoseUpload(const QString& address) {
+    const QString local = gPendingUploads.take(address);
+    if (local.isEmpty())
+        return;
+    ++gLostUploads[address];
+    ++gLostUploads[QDir::cleanPath(local)];
+}
+
+// A copy may have been given up without a word here.
+void LoseGivenUp() {
+    for (const QString& address : gPendingUploads.keys())
+        if (!gWebCopies.contains(address))
+            LoseUpload(address);
+}
+
+DocumentError CopyGivenUp(const QString& document) {
+    return DocumentError(QStringLiteral("The local copy of %1 was given up since it was loaded. "
+                                        "Load it again and repeat your changes.")
+                             .arg(document));
+}
+
 }  // namespace
 
 void UseWebFolders() {
@@ -53,7 +88,12 @@ void UseWebFolders() {
     gWebFolder.reset();
     if (gSeams.documents)
         gWebFolder = gSeams.documents->MakeWebFolderClient({.credentials = &WebCredentials()});
+    GiveUpWebCopies();
+}
+
+void GiveUpWebCopies() {
     gWebCopies.clear();
+    LoseGivenUp();
 }
 
 QString UrlFileName(const QString& url) {
@@ -64,7 +104,9 @@ QString UrlFolder(const QString& url) {
     return url.left(url.lastIndexOf(u'/') + 1);
 }
 
-bool GetLocalCopy(const QString& url, QString& local) {
+bool GetLocalCopy(const QString& path, QString& local) {
+    // Its own text: while the server asks for a password, the caller may get another document.
+    const QString url = path;
     local = url;
     if (!IsWebPath(url))
         return true;
@@ -79,6 +121,7 @@ bool GetLocalCopy(const QString& url, QString& local) {
     const QString copy = FreeCopyName(url);
     if (!gWebFolder->GetFile(url, copy))
         return false;
+    LoseUpload(url);
     gWebCopies.insert(url, copy);
     local = copy;
     return true;
@@ -91,37 +134,51 @@ QString LocalCopyOf(const QString& url) {
 }
 
 bool UploadIfWeb(const QString& path) {
-    const auto copy = gWebCopies.constFind(path);
-    if (!IsWebPath(path) || copy == gWebCopies.cend())
+    const QString url = path;  // as in GetLocalCopy
+    const QString copy = gWebCopies.value(url);
+    if (!IsWebPath(url) || copy.isEmpty())
         return true;
-    if (gWebFolder && gWebFolder->PutFile(*copy, path))
+    gPendingUploads.insert(url, copy);
+    if (gWebFolder && gWebFolder->PutFile(copy, url)) {
+        gPendingUploads.remove(url);
         return true;
+    }
     const QString kept = QStringLiteral(
         " Your copy is %1. It is deleted when the program ends or another document is browsed to: "
         "copy it elsewhere first.");
     gSeams.dialogs->Box(QStringLiteral("File save to server failed"), Dialogs::Icon::None,
                         QString(), Dialogs::Buttons::Ok,
-                        gWebFolder ? gWebFolder->LastError() + kept.arg(*copy) : QString());
+                        gWebFolder ? gWebFolder->LastError() + kept.arg(copy) : QString());
     return false;
 }
 
+bool IsUploadPending(const QString& document) {
+    LoseGivenUp();
+    return gPendingUploads.contains(document) ||
+           (!IsWebPath(document) && !AddressIn(gPendingUploads, document).isEmpty());
+}
+
+int LostUploads(const QString& document) {
+    LoseGivenUp();
+    return gLostUploads.value(IsWebPath(document) ? document : QDir::cleanPath(document));
+}
+
+void RequireNoLostUploads(const QString& document, int atLoad) {
+    if (LostUploads(document) != atLoad)
+        throw CopyGivenUp(document);
+}
+
 bool FindUrlOfCopy(const QString& local, QString& url) {
-    const QString wanted = QDir::cleanPath(local);
-    for (auto copy = gWebCopies.cbegin(); copy != gWebCopies.cend(); ++copy) {
-        if (QDir::cleanPath(*copy) != wanted)
-            continue;
-        url = copy.key();
-        return true;
-    }
-    return false;
+    const QString address = AddressIn(gWebCopies, local);
+    if (!address.isEmpty())
+        url = address;
+    return !address.isEmpty();
 }
 
 QString UrlToUpload(const QString& document, const QString& local) {
     QString url;
     if (!FindUrlOfCopy(local, url) && IsWebPath(document))
-        throw DocumentError(QStringLiteral("The local copy of %1 was given up since it was loaded. "
-                                           "Load it again and repeat your changes.")
-                                .arg(document));
+        throw CopyGivenUp(document);
     return url;
 }
 
@@ -167,8 +224,14 @@ bool RenameWebCopy(const QString& oldUrl, const QString& newUrl) {
     if (gWebFolder)
         gWebFolder->LocalFileMoved(former, copy);
     QString other;
-    if (FindUrlOfCopy(copy, other))
+    if (FindUrlOfCopy(copy, other)) {
         gWebCopies.remove(other);
+        LoseUpload(other);
+    }
+    const bool pending = gPendingUploads.remove(oldUrl);
+    LoseUpload(newUrl);  // of the document that was overwritten
+    if (pending)
+        gPendingUploads.insert(newUrl, copy);
     gWebCopies.insert(newUrl, copy);
     return true;
 }

@@ -19,6 +19,8 @@ extern std::unique_ptr<WebFolderListing> gWebListing;
 
 // What every control runs at its start: a new client, and no copies.
 void UseWebFolders();
+// Forgets all local copies, and what their servers have not taken of them.
+void GiveUpWebCopies();
 
 // The text behind the last "/"; without one, the whole address.
 QString UrlFileName(const QString& url);
@@ -35,6 +37,15 @@ QString LocalCopyOf(const QString& url);
 // Writes a changed copy back to its address; does nothing for a local path and for an address
 // without a copy. A refusal is told in a box, and leaves the copy for another try. False then.
 bool UploadIfWeb(const QString& path);
+
+// Whether a copy holds what its server has not taken yet, so that saving the document uploads it
+// even if nothing was edited. `document` is an address, or a local copy that was opened itself.
+bool IsUploadPending(const QString& document);
+// How often changes to a document were lost because its copy was given up while they were pending.
+// An editor that sees more than at its loading shows, and may have saved, what is no longer there.
+int LostUploads(const QString& document);
+// Raises DocumentError when there are more than `atLoad`.
+void RequireNoLostUploads(const QString& document, int atLoad);
 
 // The address whose copy a local file is.
 bool FindUrlOfCopy(const QString& local, QString& url);

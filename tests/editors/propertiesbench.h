@@ -13,6 +13,7 @@
 #include <memory>
 
 #include "docmodel/builder.h"
+#include "docmodel/package.h"
 #include "editors/propertiesbox.h"
 #include "editors/propertyrows.h"
 #include "panes/celllistview.h"
@@ -49,17 +50,18 @@ struct PropertiesBench {
                                   {{QStringLiteral("Length"), 40.0, 2},
                                    {QStringLiteral("Finish"), QStringLiteral("zinc"), 0}});
         document.Save();
-        pane.SetStatusBarControl(&status);
-        pane.resize(700, 600);
-        pane.show();
-        if (!QTest::qWaitForWindowActive(&pane))
+        pane = std::make_unique<PropertiesBox>();
+        pane->SetStatusBarControl(&status);
+        pane->resize(700, 600);
+        pane->show();
+        if (!QTest::qWaitForWindowActive(pane.get()))
             qFatal("no active window");
     }
-    void Load() { pane.SetPartName(QStringLiteral("pin"), pin); }
+    void Load() { pane->SetPartName(QStringLiteral("pin"), pin); }
 
     template <typename T>
     T* Child(const QString& name) {
-        T* child = pane.findChild<T*>(name);
+        T* child = pane->findChild<T*>(name);
         if (!child)
             qFatal("no %s", qPrintable(name));
         return child;
@@ -119,6 +121,29 @@ struct PropertiesBench {
         QTest::mouseClick(RemoveButton(set), Qt::LeftButton);
     }
     void Apply() { QTest::mouseClick(ApplyButton(), Qt::LeftButton); }
+    // For a pane that goes away behind the click: a mouse would go on with its button.
+    static void Click(QPushButton* button) { QMetaObject::invokeMethod(button, "click"); }
+
+    // The names of a set's properties in the document on the disk, in their order.
+    static QStringList NamesIn(DocumentInfo& info) {
+        QStringList names;
+        for (int index = 0; index < info.GetCustomCount(); ++index)
+            names.append(info.GetCustomProperty(index).name);
+        return names;
+    }
+    QStringList StoredNames() { return NamesIn(*Record()); }
+    QStringList StoredNamesIn(int configuration) {
+        const auto file = gSeams.documents->MakeDocumentFile();
+        file->Open(pin);
+        return NamesIn(*file->GetCustomProperties(configuration));
+    }
+    // The beginning of a box that quotes `reason` for an error, for TestDialogs::Expect.
+    static QString Quoting(TextId<1> text, const QString& reason) {
+        return gStrings[size_t(text.number)].section(QStringLiteral("%s"), 0, 0) + reason + u'*';
+    }
+    QString ChangedElsewhere() const {
+        return QStringLiteral("The properties of %1 were changed by another program").arg(pin);
+    }
 
     // What the document on the disk holds.
     std::unique_ptr<DocumentInfo> Record() {
@@ -144,7 +169,7 @@ struct PropertiesBench {
     TestDialogs dialogs;
     FakeStatusLine status;
     QString pin;
-    PropertiesBox pane;
+    std::unique_ptr<PropertiesBox> pane;
 };
 
 }  // namespace docbench

@@ -103,7 +103,7 @@ QString StoredDate(const QDateTime& date) {
 struct Property {
     QString name;
     int type = 0;
-    QString typed;
+    QString typed;      // of yes or no, empty for no
     QJsonArray stored;  // name, element, text
 };
 
@@ -121,13 +121,23 @@ Property MakeProperty(Random& random, int number) {
                     NumberToLocal(value),
                     {name, "r8", QString::number(value, 'g', QLocale::FloatingPointShortest)}};
         }
-        case 3:
-            return {name, 3, {}, {name, "bool", "true"}};
+        case 3: {
+            const bool yes = random.Below(2) == 0;
+            return {name, 3, yes ? "yes" : "", {name, "bool", yes ? "true" : "false"}};
+        }
         default: {
             const QString text = random.Text(200);
             return {name, 0, text, {name, "lpwstr", text}};
         }
     }
+}
+
+void PutYesOrNo(PropertiesBench& bench, const QString& name, bool yes) {
+    bench.ShowTabOf(kCustomSet);
+    bench.Name(kCustomSet)->setEditText(name);
+    bench.Type(kCustomSet)->setCurrentIndex(3);
+    bench.Of<QRadioButton>(kCustomSet, yes ? "OptionYes" : "OptionNo")->click();
+    bench.Click(bench.AddButton(kCustomSet));
 }
 
 }  // namespace
@@ -155,7 +165,10 @@ private Q_SLOTS:
         QJsonArray expected;
         for (int number = 0; number < 25; ++number) {
             const Property property = MakeProperty(random, number);
-            bench.Put(kCustomSet, property.name, property.typed, property.type);
+            if (property.type == 3)
+                PutYesOrNo(bench, property.name, !property.typed.isEmpty());
+            else
+                bench.Put(kCustomSet, property.name, property.typed, property.type);
             expected.append(property.stored);
         }
         QStringList summary;

@@ -3,7 +3,6 @@
 
 #include <QFile>
 
-#include "docmodel/package.h"
 #include "tests/editors/propertiesbench.h"
 #include "tests/support/testenvironment.h"
 
@@ -153,6 +152,22 @@ private Q_SLOTS:
         after = before;
         after.removeAt(3);
         QCOMPARE(bench.Elements(set), after);
+    }
+
+    void theOneThatIsLeftCanBeEditedInAnySpelling_data() { AddRowsForBothSets(); }
+    void theOneThatIsLeftCanBeEditedInAnySpelling() {
+        QFETCH(int, set);
+        Bench bench;
+        bench.Remove(set, "COLOUR");
+        bench.ExpectRefusal();
+        bench.Put(set, "Colour", "green");  // both are still in the document
+        QVERIFY(bench.dialogs.AllCame());
+        bench.Apply();
+        bench.Put(set, "Colour", "green");
+        QCOMPARE(bench.Row(set, 2).section('|', 0, 1), QString("colour|green"));
+        bench.Apply();
+        QCOMPARE(set == kCustomSet ? bench.Stored("colour") : bench.StoredIn(0, "colour"),
+                 QVariant("green"));
     }
 };
 

@@ -23,7 +23,7 @@ struct Bench : PropertiesBench {
     Bench() {
         web.server.files[url] = BytesOf(pin);
         gWebDocument = true;
-        pane.SetPartName("pin", url);
+        pane->SetPartName("pin", url);
     }
     ~Bench() { gWebDocument = false; }
 
@@ -32,6 +32,9 @@ struct Bench : PropertiesBench {
         dialogs.Expect("File save to server failed", Dialogs::Icon::None);
         Apply();
         web.server.refusesUploads = false;
+    }
+    QString GivenUp() {
+        return Quoting(Text::PropertiesWriteError, "The local copy of " + url + " was given up");
     }
     qsizetype Uploads() { return web.server.calls.count("put " + url); }
     QByteArray OnServer() { return web.server.files[url]; }
@@ -160,7 +163,7 @@ private Q_SLOTS:
         bench.Apply();
         bench.LookAtTheServer();
         QCOMPARE(bench.Record()->GetTitle(), QString("Dowel"));
-        bench.pane.SetPartName("pin", bench.url);
+        bench.pane->SetPartName("pin", bench.url);
         QVERIFY(!bench.ApplyButton()->isEnabled());
     }
 
@@ -232,7 +235,7 @@ private Q_SLOTS:
         bench.Summary(0)->setText("Dowel");
         bench.ApplyRefused();
         gWebCopies.clear();  // a local document was browsed to
-        bench.dialogs.Expect(gStrings[170].section("%s", 0, 0) + '*');
+        bench.dialogs.Expect(bench.GivenUp());
         bench.Apply();
         QVERIFY(bench.dialogs.AllCame());
         QCOMPARE(bench.OnServer(), before);
@@ -241,13 +244,100 @@ private Q_SLOTS:
         QVERIFY(!bench.ApplyButton()->isEnabled());
     }
 
+    // The edit would go onto the document as the server has it, and what was saved before be gone.
+    void anEditBehindAGivenUpCopyIsNotWritten_data() {
+        QTest::addColumn<bool>("fetchedAnew");
+        QTest::addColumn<QString>("edit");
+        for (const char* edit : {"custom", "configuration", "leaving"}) {
+            QTest::addRow("%s", edit) << false << edit;
+            QTest::addRow("%s, and fetched anew by another", edit) << true << edit;
+        }
+    }
+    void anEditBehindAGivenUpCopyIsNotWritten() {
+        QFETCH(bool, fetchedAnew);
+        QFETCH(QString, edit);
+        Bench bench;
+        const QByteArray before = bench.OnServer();
+        bench.PickConfiguration(0);
+        bench.Summary(0)->setText("Dowel");
+        bench.ApplyRefused();
+        gWebCopies.clear();
+        if (fetchedAnew)
+            LocalCopyOf(bench.url);
+        bench.Put(edit == "custom" ? kCustomSet : kConfigurationSet, "Owner", "Mine");
+        if (edit == "leaving") {
+            bench.dialogs.Expect(gStrings[171], Dialogs::Icon::None, Dialogs::Answer::Yes);
+            bench.dialogs.Expect(bench.GivenUp());
+            bench.PickConfiguration(1);
+        }
+        bench.dialogs.Expect(bench.GivenUp());
+        bench.Apply();
+        QVERIFY(bench.dialogs.AllCame());
+        QCOMPARE(bench.OnServer(), before);
+        QCOMPARE(bench.Uploads(), 1);
+        if (fetchedAnew)
+            QCOMPARE(BytesOf(gWebCopies.value(bench.url)), before);
+        bench.Click(bench.ResetButton());
+        QVERIFY(!bench.ApplyButton()->isEnabled());
+        bench.Put(kCustomSet, "Owner", "Mine");
+        bench.Apply();
+        bench.LookAtTheServer();
+        QCOMPARE(bench.Stored("Owner"), QVariant("Mine"));
+    }
+
+    void aDocumentThatWasOpenedAsItsLocalCopyIsWrittenBack() {
+        Bench bench;
+        bench.pane->SetPartName("pin", gWebCopies.value(bench.url));
+        bench.PickConfiguration(0);
+        bench.Put(kConfigurationSet, "Length", "21", 2);
+        bench.Put(kCustomSet, "Owner", "Mine");
+        bench.Apply();
+        QCOMPARE(bench.Uploads(), 2);
+        bench.LookAtTheServer();
+        QCOMPARE(bench.Stored("Owner"), QVariant("Mine"));
+        QCOMPARE(bench.StoredIn(0, "Length"), QVariant(21.0));
+    }
+
+    // The copy is one, whatever it was opened as.
+    void whatIsPendingIsUploadedUnderEitherName() {
+        Bench bench;
+        bench.Summary(0)->setText("Dowel");
+        bench.ApplyRefused();
+        bench.pane->SetPartName("pin", gWebCopies.value(bench.url));
+        QVERIFY(bench.ApplyButton()->isEnabled());
+        bench.Summary(0)->setText("Rivet");
+        bench.ApplyRefused();
+        bench.pane->SetPartName("pin", bench.url);
+        QVERIFY(bench.ApplyButton()->isEnabled());
+        bench.Apply();
+        bench.LookAtTheServer();
+        QCOMPARE(bench.Record()->GetTitle(), QString("Rivet"));
+        bench.pane->SetPartName("pin", gWebCopies.value(bench.url));
+        QVERIFY(!bench.ApplyButton()->isEnabled());
+    }
+
+    void aRenamedDocumentKeepsWhatIsPending() {
+        Bench bench;
+        bench.Summary(0)->setText("Dowel");
+        bench.ApplyRefused();
+        const QString bolt = "http://server/docs/bolt.tfmprt";
+        QVERIFY(RenameWebCopy(bench.url, bolt));
+        bench.pane->SetPartName("bolt", bolt);
+        QCOMPARE(bench.Summary(0)->text(), QString("Dowel"));
+        QVERIFY(bench.ApplyButton()->isEnabled());
+        bench.Apply();
+        QCOMPARE(bench.web.server.calls.count("put " + bolt), 1);
+        bench.pane->SetPartName("bolt", bolt);
+        QVERIFY(!bench.ApplyButton()->isEnabled());
+    }
+
     void anotherDocumentHasNothingToUploadAndKeepsWhatIs() {
         Bench bench;
         bench.Summary(0)->setText("Dowel");
         bench.ApplyRefused();
-        bench.pane.SetPartName("other", bench.library.Make("other.tfmprt"));
+        bench.pane->SetPartName("other", bench.library.Make("other.tfmprt"));
         QVERIFY(!bench.ApplyButton()->isEnabled());
-        bench.pane.SetPartName("pin", bench.url);
+        bench.pane->SetPartName("pin", bench.url);
         bench.Apply();
         bench.LookAtTheServer();
         QCOMPARE(bench.Record()->GetTitle(), QString("Dowel"));

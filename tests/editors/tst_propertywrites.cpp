@@ -41,10 +41,6 @@ QByteArray BytesOf(const QString& path) {
     return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QString Beginning(TextId<1> text) {
-    return gStrings[size_t(text.number)].section("%s", 0, 0) + '*';
-}
-
 }  // namespace
 
 class TestPropertyWrites : public QObject {
@@ -218,15 +214,26 @@ private Q_SLOTS:
 
     void longTextsAreWrittenWhole() {
         PropertiesBench bench;
-        const QString text = QString::fromUtf8("\u4f53 & <\U0001F529>").repeated(12500);
+        const QString text = QString::fromUtf8("\u4f53 & <\U0001F529>")
+                                 .repeated(12500);  // 100,000 characters and more
         bench.Load();
         bench.Summary(0)->setText(text);
         bench.Comments()->setPlainText(text);
         bench.Put(kCustomSet, "Long", text);
+        bench.Put(kCustomSet, text, "long");
+        bench.PickConfiguration(1);
+        bench.Put(kConfigurationSet, "Long", text);
         bench.Apply();
         QCOMPARE(bench.Record()->GetTitle(), text);
         QCOMPARE(bench.Record()->GetComments(), text);
         QCOMPARE(bench.Stored("Long"), QVariant(text));
+        QCOMPARE(bench.Stored(text), QVariant("long"));
+        QCOMPARE(bench.StoredIn(1, "Long"), QVariant(text));
+        bench.Load();
+        bench.PickConfiguration(1);
+        QCOMPARE(bench.Comments()->toPlainText(), text);
+        QCOMPARE(bench.Rows(kCustomSet).At(5).cells[0].text, text);
+        QCOMPARE(bench.Rows(kConfigurationSet).At(2).cells[1].text, text);
     }
 
     void aConfigurationAndTheRestAreTwoOpenings() {
@@ -275,7 +282,8 @@ private Q_SLOTS:
         {
             const FileLockHolder other(bench.pin);
             bench.dialogs.Expect(gStrings[171], Dialogs::Icon::None, Dialogs::Answer::Yes);
-            bench.dialogs.Expect(Beginning(Text::PropertiesWriteError));
+            bench.dialogs.Expect(
+                bench.Quoting(Text::PropertiesWriteError, "The document " + bench.pin));
             bench.PickConfiguration(1);
         }
         QVERIFY(bench.dialogs.AllCame());
@@ -322,7 +330,8 @@ private Q_SLOTS:
         });
         const QByteArray before = BytesOf(bench.pin);
         for (int attempt = 0; attempt < 2; ++attempt) {
-            bench.dialogs.Expect(Beginning(Text::PropertiesWriteError));
+            bench.dialogs.Expect(
+                bench.Quoting(Text::PropertiesWriteError, bench.ChangedElsewhere()));
             bench.Apply();
             QVERIFY(bench.dialogs.AllCame());
         }
@@ -350,8 +359,9 @@ private Q_SLOTS:
         QCOMPARE(bench.Stored("Owner"), QVariant("Mine"));
         QCOMPARE(bench.Record()->GetTitle(), QString("Theirs"));
         bench.Summary(0)->setText("Mine");  // typed over a title that is not the pane's
-        bench.dialogs.Expect(Beginning(Text::PropertiesWriteError));
+        bench.dialogs.Expect(bench.Quoting(Text::PropertiesWriteError, bench.ChangedElsewhere()));
         bench.Apply();
+        QVERIFY(bench.dialogs.AllCame());
         QCOMPARE(bench.Record()->GetTitle(), QString("Theirs"));
     }
 
@@ -376,7 +386,8 @@ private Q_SLOTS:
         bench.Put(kCustomSet, "Owner", "Mine");
         const QByteArray before = BytesOf(bench.pin);
         QVERIFY(QFile::setPermissions(bench.pin, QFile::ReadOwner | QFile::ReadUser));
-        bench.dialogs.Expect(Beginning(Text::PropertiesWriteError));
+        bench.dialogs.Expect(
+            bench.Quoting(Text::PropertiesWriteError, "The document " + bench.pin));
         bench.Apply();
         QVERIFY(bench.dialogs.AllCame());
         QCOMPARE(BytesOf(bench.pin), before);
@@ -392,7 +403,8 @@ private Q_SLOTS:
         bench.Summary(2)->setText("Mine");
         {
             const FileLockHolder other(bench.pin);
-            bench.dialogs.Expect(Beginning(Text::PropertiesWriteError));
+            bench.dialogs.Expect(
+                bench.Quoting(Text::PropertiesWriteError, "The document " + bench.pin));
             bench.Apply();
         }
         QVERIFY(bench.dialogs.AllCame());
@@ -436,12 +448,66 @@ private Q_SLOTS:
         QCOMPARE(bench.Record()->GetTitle(), QString("Dowel"));
     }
 
+    void aTextThatNoDocumentShouldHoldIsNotInTheWay() {
+        PropertiesBench bench;
+        const QString foreign = QString("odd") + QChar(0xFFFE);
+        docmodel::PackageWriter::Create(
+            bench.pin,
+            {{"docProps/core.xml",
+              "<coreProperties xmlns='http://schemas.openxmlformats.org/package/2006/metadata/"
+              "core-properties' xmlns:dc='http://purl.org/dc/elements/1.1/'><dc:description>" +
+                  foreign.toUtf8() + "</dc:description></coreProperties>"}},
+            true);
+        bench.Load();
+        bench.Put(kCustomSet, "Owner", "Castings");
+        bench.Summary(0)->setText("Dowel");
+        bench.Apply();
+        QCOMPARE(bench.Stored("Owner"), QVariant("Castings"));
+        QCOMPARE(bench.Record()->GetTitle(), QString("Dowel"));
+        QCOMPARE(bench.Record()->GetComments(), foreign);
+    }
+
+    // The text control itself takes U+FDD0 and U+FDD1 for its own marks, so that an edit of the
+    // comments loses them.
+    void rareCharactersOfTheCommentsSurviveAnEditElsewhere() {
+        PropertiesBench bench;
+        QString rare = QString::fromUtf8("a\uFDD0b\uFFFCc\u2028d");
+        for (char16_t one = 0x80; one <= 0x9F; ++one)
+            rare += QChar(one);
+        ChangeElsewhere(bench.pin, [&](DocumentBuilder& document) { document.SetComments(rare); });
+        bench.Load();
+        bench.Summary(0)->setText("Dowel");
+        bench.Put(kCustomSet, "Owner", "Castings");
+        bench.Apply();
+        QCOMPARE(bench.Record()->GetTitle(), QString("Dowel"));
+        QCOMPARE(bench.Record()->GetComments(), rare);
+    }
+
+    void theValuesOfAConfigurationAreStoredInTheirTypes() {
+        PropertiesBench bench;
+        bench.Load();
+        bench.PickConfiguration(0);
+        bench.Put(kConfigurationSet, "Due", "1 Feb 2004", 1);
+        bench.ShowTabOf(kConfigurationSet);
+        bench.Name(kConfigurationSet)->setEditText("Tested");
+        bench.Type(kConfigurationSet)->setCurrentIndex(3);
+        bench.Of<QRadioButton>(kConfigurationSet, "OptionNo")->click();
+        bench.Click(bench.AddButton(kConfigurationSet));
+        bench.Apply();
+        QCOMPARE(bench.StoredIn(0, "Due").toDateTime(), QDate(2004, 2, 1).startOfDay());
+        QCOMPARE(bench.StoredIn(0, "Tested"), QVariant(false));
+        bench.Load();
+        bench.PickConfiguration(0);
+        QCOMPARE(bench.Row(kConfigurationSet, 1), "Due|1 Feb 2004|" + gStrings[165]);
+        QCOMPARE(bench.Row(kConfigurationSet, 2), "Tested|" + gStrings[340] + '|' + gStrings[167]);
+    }
+
     // A lock taken in the tree shows the record of that document here.
     void theDocumentThatIsShownIsTheOneThatIsWritten() {
         PropertiesBench bench;
         bench.Load();
         const QString other = bench.library.Make("other.tfmprt");
-        bench.pane.ReloadProperties(other);
+        bench.pane->ReloadProperties(other);
         QCOMPARE(bench.Summary(0)->text(), QString());
         bench.Summary(0)->setText("Other");
         bench.Apply();

@@ -149,6 +149,21 @@ void ForgetsTheUploadWithTheCopy() {
     QVERIFY(!bench.CanSave());
 }
 
+template <typename Editor>
+void KeepsTheUploadThroughARenaming() {
+    Bench<Editor> bench;
+    bench.Type(2, "mine");
+    bench.SaveRefused();
+    const QString bolt = "http://server/docs/bolt.tfmprt";
+    QVERIFY(RenameWebCopy(bench.url, bolt));
+    bench.pane->SetPartName("bolt", bolt);
+    QCOMPARE(bench.Texts(), QStringList("mine"));
+    QVERIFY(bench.CanSave());
+    bench.Save();
+    QCOMPARE(bench.web.server.calls.count("put " + bolt), 1);
+    QVERIFY(!bench.CanSave());
+}
+
 }  // namespace
 
 class TestTreeUploads : public QObject {
@@ -193,6 +208,11 @@ private Q_SLOTS:
     void whatWasToBeUploadedGoesWithItsCopy() {
         ForgetsTheUploadWithTheCopy<Configurations>();
         ForgetsTheUploadWithTheCopy<Hyperlinks>();
+    }
+
+    void aRenamedDocumentKeepsWhatIsToBeUploaded() {
+        KeepsTheUploadThroughARenaming<Configurations>();
+        KeepsTheUploadThroughARenaming<Hyperlinks>();
     }
 };
 

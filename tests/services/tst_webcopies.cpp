@@ -70,6 +70,22 @@ struct PinsWeb : FakeWeb {
     PinsClient* client = nullptr;
 };
 
+// A pin whose server has refused its copy.
+struct PendingPin {
+    PendingPin() {
+        web.server.files[kPin] = "one";
+        LocalCopyOf(kPin);
+        web.server.refusesUploads = true;
+        dialogs.Expect("File save to server failed", Dialogs::Icon::None);
+        UploadIfWeb(kPin);
+        web.server.refusesUploads = false;
+    }
+    ~PendingPin() { GiveUpWebCopies(); }
+
+    FakeWeb web;
+    TestDialogs dialogs;
+};
+
 class FakeKeyRing : public KeyRing {
 public:
     FakeKeyRing() { gSeams.keyring = this; }
@@ -367,6 +383,62 @@ private Q_SLOTS:
         QCOMPARE(web.server.calls, QStringList("get " + kPin));
         QCOMPARE(BytesOf(LocalCopyOf("http://s/w/bolt.tfmprt")), QByteArray("one"));
         QVERIFY(!gWebCopies.contains(kPin));
+    }
+
+    void whatAServerRefusesIsPendingUntilItIsTaken() {
+        FakeWeb web;
+        TestDialogs dialogs;
+        web.server.files = {{kPin, "one"}, {kOtherPin, "two"}};
+        const QString copy = LocalCopyOf(kPin);
+        LocalCopyOf(kOtherPin);
+        QVERIFY(!IsUploadPending(kPin));
+        const int lost = LostUploads(kPin);
+        web.server.refusesUploads = true;
+        dialogs.Expect("File save to server failed", Dialogs::Icon::None);
+        UploadIfWeb(kPin);
+        QVERIFY(IsUploadPending(kPin) && IsUploadPending(copy));
+        QVERIFY(!IsUploadPending(kOtherPin) && !IsUploadPending("/w/pin.tfmprt"));
+        web.server.refusesUploads = false;
+        QVERIFY(UploadIfWeb(kPin));
+        QVERIFY(!IsUploadPending(kPin) && !IsUploadPending(copy));
+        QCOMPARE(LostUploads(kPin), lost);
+    }
+
+    void whatIsPendingGoesWithItsCopy() {
+        PendingPin bench;
+        const QString copy = LocalCopyOf(kPin);
+        const int atLoad = LostUploads(kPin);
+        const int atLoadOfCopy = LostUploads(copy);
+        RequireNoLostUploads(kPin, atLoad);
+        UseWebFolders();
+        gWebFolder = std::make_unique<FakeWebClient>(bench.web.server);
+        QVERIFY(!IsUploadPending(kPin));
+        LocalCopyOf(kPin);
+        QVERIFY(!IsUploadPending(kPin));
+        QCOMPARE(LostUploads(kPin), atLoad + 1);
+        QCOMPARE(LostUploads(copy), atLoadOfCopy + 1);
+        QVERIFY_THROWS_EXCEPTION(DocumentError, RequireNoLostUploads(kPin, atLoad));
+    }
+
+    void whatIsPendingIsRenamedWithItsDocument() {
+        PendingPin bench;
+        const int lost = LostUploads(kPin);
+        const QString bolt = "http://s/w/bolt.tfmprt";
+        QVERIFY(RenameWebCopy(kPin, bolt));
+        QVERIFY(!IsUploadPending(kPin));
+        QVERIFY(IsUploadPending(bolt) && IsUploadPending(LocalCopyOf(bolt)));
+        QCOMPARE(LostUploads(kPin), lost);
+        QVERIFY(RenameWebCopy(bolt, bolt));
+        QVERIFY(IsUploadPending(bolt));
+    }
+
+    void whatIsPendingOfAnOverwrittenDocumentIsLost() {
+        PendingPin bench;
+        bench.web.server.files[kOtherPin] = "two";
+        const int lost = LostUploads(kPin);
+        QVERIFY(RenameWebCopy(kOtherPin, kPin));
+        QVERIFY(!IsUploadPending(kPin));
+        QCOMPARE(LostUploads(kPin), lost + 1);
     }
 
     void whatHasNoCopyIsNotRenamed() {
