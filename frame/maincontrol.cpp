@@ -65,7 +65,7 @@ Maincontrol::~Maincontrol() {
         gSeams.help->Close();
     ui_->UserControl11->ReleasePanes();  // before the local copies that they may work on go away
     DeleteScratch();
-    GiveUpWebCopies();  // their files are gone
+    gWebCopies.clear();  // their files are gone
     gLogger.reset();
 }
 

@@ -68,7 +68,7 @@ void LoseUpload(const QString& address) {
     ++gLostUploads[QDir::cleanPath(local)];
 }
 
-// A copy may have been given up without a word here.
+// Copies are given up by emptying gWebCopies, with no word to what is kept here.
 void LoseGivenUp() {
     for (const QString& address : gPendingUploads.keys())
         if (!gWebCopies.contains(address))
@@ -88,12 +88,7 @@ void UseWebFolders() {
     gWebFolder.reset();
     if (gSeams.documents)
         gWebFolder = gSeams.documents->MakeWebFolderClient({.credentials = &WebCredentials()});
-    GiveUpWebCopies();
-}
-
-void GiveUpWebCopies() {
     gWebCopies.clear();
-    LoseGivenUp();
 }
 
 QString UrlFileName(const QString& url) {

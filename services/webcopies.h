@@ -19,8 +19,6 @@ extern std::unique_ptr<WebFolderListing> gWebListing;
 
 // What every control runs at its start: a new client, and no copies.
 void UseWebFolders();
-// Forgets all local copies, and what their servers have not taken of them.
-void GiveUpWebCopies();
 
 // The text behind the last "/"; without one, the whole address.
 QString UrlFileName(const QString& url);

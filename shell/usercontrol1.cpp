@@ -321,7 +321,7 @@ void UserControl1::Browse() {
         Log([&](LoggingManager& log) { log.LogDocumentOpen(name); });
         ui_->filepathCombo->setEditText(name);
         gWebDocument = false;
-        GiveUpWebCopies();
+        gWebCopies.clear();
         LeaveFileOperation();
         OpenDocument(name);
         ui_->filepathCombo->InsertFirst(ui_->filepathCombo->currentText());

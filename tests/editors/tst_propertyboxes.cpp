@@ -70,6 +70,7 @@ struct Bench : PropertiesBench {
         QCOMPARE(status.caption, Format(Text::PropertiesOf, other));
         QVERIFY(!ApplyButton()->isEnabled());
         QCOMPARE(BytesOf(other), otherBytes);
+        QVERIFY(!View(kConfigurationSet)->isEnabled());
         PickConfiguration(0);
         QCOMPARE(Row(kConfigurationSet, 0), "Length|7|" + gStrings[166]);
         Put(kConfigurationSet, "Length", "8", 2);
@@ -166,6 +167,7 @@ private Q_SLOTS:
         bench.RequireOther();
         QCOMPARE(gWebCopies.keys(), QStringList(bench.url));
         QCOMPARE(bench.web.server.files[bench.url] != before, uploads);
+        QCOMPARE(BytesOf(gWebCopies.value(bench.url)), bench.web.server.files[bench.url]);
     }
 
     void thePaneMayGoAwayBehindABox_data() {

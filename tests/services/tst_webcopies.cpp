@@ -80,7 +80,6 @@ struct PendingPin {
         UploadIfWeb(kPin);
         web.server.refusesUploads = false;
     }
-    ~PendingPin() { GiveUpWebCopies(); }
 
     FakeWeb web;
     TestDialogs dialogs;
@@ -430,6 +429,49 @@ private Q_SLOTS:
         QCOMPARE(LostUploads(kPin), lost);
         QVERIFY(RenameWebCopy(bolt, bolt));
         QVERIFY(IsUploadPending(bolt));
+    }
+
+    void whatIsPendingOfACopyUnderAnotherNameIsLostToo() {
+        FakeWeb web;
+        TestDialogs dialogs;
+        const QString bolt = "http://s/w/bolt.tfmprt";
+        web.server.files = {{kPin, "one"}, {"http://s/x/bolt.tfmprt", "two"}, {bolt, "three"}};
+        LocalCopyOf("http://s/x/bolt.tfmprt");
+        LocalCopyOf(bolt);
+        web.server.refusesUploads = true;
+        dialogs.Expect("File save to server failed", Dialogs::Icon::None);
+        UploadIfWeb(bolt);
+        QVERIFY(IsUploadPending(bolt));
+        QVERIFY(RenameWebCopy(kPin, bolt));
+        QVERIFY(!IsUploadPending(bolt));
+    }
+
+    // While a password is asked for, the pane whose text it is may get another document.
+    void theAddressMayChangeBehindAPassword() {
+        QString address = kPin;
+        struct Asking : FakeWebClient {
+            Asking(FakeServer& server, QString& text) : FakeWebClient(server), address(text) {}
+            bool GetFile(const QString& url, const QString& localPath) override {
+                const QString asked = url;
+                address = kOtherPin;
+                return FakeWebClient::GetFile(asked, localPath);
+            }
+            bool PutFile(const QString& localPath, const QString& url) override {
+                const QString asked = url;
+                address = kOtherPin;
+                return FakeWebClient::PutFile(localPath, asked);
+            }
+            QString& address;
+        };
+        FakeWeb web;
+        web.server.files = {{kPin, "one"}, {kOtherPin, "two"}};
+        gWebFolder = std::make_unique<Asking>(web.server, address);
+        LocalCopyOf(address);
+        QCOMPARE(address, kOtherPin);
+        QCOMPARE(gWebCopies.keys(), QStringList(kPin));
+        address = kPin;
+        QVERIFY(UploadIfWeb(address));
+        QVERIFY(!IsUploadPending(kPin));
     }
 
     void whatIsPendingOfAnOverwrittenDocumentIsLost() {
