@@ -1,6 +1,7 @@
 #include "editors/editconfig.h"
 
 #include <QMenu>
+#include <QPointer>
 
 #include "editors/configurationtree.h"
 #include "frame/desccontrol.h"
@@ -111,7 +112,12 @@ void editConfig::Load() {
         configDocument = Documents().MakeDocumentFile();
     ui_->Labelnon2000->hide();
     ui_->editBox1->show();
-    localPath = LocalCopyOf(partfilename);
+    const QPointer<editConfig> alive(this);
+    const QString document = partfilename;
+    const QString local = LocalCopyOf(document);
+    if (!alive || partfilename != document)
+        return;  // gone, or on another one, behind the question for a password
+    localPath = local;
     configDocument->Open(localPath);
     if (!configDocument->IsCurrentFormat()) {
         ui_->editBox1->hide();
@@ -124,12 +130,17 @@ void editConfig::Load() {
     SetStatusText(Format(Text::ConfigurationCount, configCount));
 }
 
+// Its messages come later: the edit box is closed in the midst of a change of focus or a drop.
 void editConfig::EndRename(int node, const QString& typed) {
+    const auto warnLater = [this](const QString& text) {
+        QMetaObject::invokeMethod(
+            this, [text] { Warn(text); }, Qt::QueuedConnection);
+    };
     switch (configurations_->Rename(node, typed)) {
         case ConfigurationTree::Answer::NameEmpty:
-            return Warn(Tr(Text::ConfigurationNameEmpty));
+            return warnLater(Tr(Text::ConfigurationNameEmpty));
         case ConfigurationTree::Answer::NameTaken:
-            return Warn(Tr(Text::ConfigurationNameTaken));
+            return warnLater(Tr(Text::ConfigurationNameTaken));
         default:
             UpdateButtons();
     }
@@ -156,17 +167,26 @@ void editConfig::ShowMenu(QPoint globalPosition) {
     mnuEdit->popup(globalPosition);
 }
 
+// Behind each box the pane may be gone, or on another document.
 void editConfig::Save() {
-    if (partfilename.isEmpty())
+    const QPointer<editConfig> alive(this);
+    const QString document = partfilename;
+    const auto isOver = [&] { return !alive || partfilename != document; };
+    ui_->ecSave->setFocus();  // takes what an open edit box holds: a mnemonic leaves it open
+    if (isOver() || document.isEmpty())
         return;
     bool uploaded = false;
     ErrorState errors;
-    if (!errors.Run([&] { uploaded = Write(); })) {
+    errors.Run([&] { uploaded = Write(); });
+    if (isOver())
+        return;
+    if (errors.Failed()) {
         SetStatusText(Tr(Text::ConfigurationsNotSaved));
         return Warn(Format(Text::ConfigurationSaveError, errors.Description()));
     }
     SetPartName(partDisplayName, partfilename);
-    SetStatusText(uploaded ? Tr(Text::ConfigurationsSaved) : Tr(Text::ConfigurationsNotSaved));
+    if (!isOver())
+        SetStatusText(uploaded ? Tr(Text::ConfigurationsSaved) : Tr(Text::ConfigurationsNotSaved));
 }
 
 // Onto the document as it is now, so that an attempt that failed leaves nothing for the next one.

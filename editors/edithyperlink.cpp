@@ -1,5 +1,7 @@
 #include "editors/edithyperlink.h"
 
+#include <QPointer>
+
 #include "editors/hyperlinktree.h"
 #include "frame/desccontrol.h"
 #include "services/dialogs.h"
@@ -100,7 +102,12 @@ void EditHyperLink::Load() {
         hyperlinkDocument = Documents().MakeDocumentFile();
     ui_->Labelnon2000->hide();
     ui_->editBox1->show();
-    localPath = LocalCopyOf(partfilename);
+    const QPointer<EditHyperLink> alive(this);
+    const QString document = partfilename;
+    const QString local = LocalCopyOf(document);
+    if (!alive || partfilename != document)
+        return;  // gone, or on another one, behind the question for a password
+    localPath = local;
     hyperlinkDocument->OpenHyperlinks(localPath);
     if (!hyperlinkDocument->IsCurrentFormat()) {
         ui_->editBox1->hide();
@@ -119,17 +126,26 @@ void EditHyperLink::OpenTarget(int node) {
                                QStringLiteral("0"), 1);
 }
 
+// Behind each box the pane may be gone, or on another document.
 void EditHyperLink::Save() {
-    if (partfilename.isEmpty())
+    const QPointer<EditHyperLink> alive(this);
+    const QString document = partfilename;
+    const auto isOver = [&] { return !alive || partfilename != document; };
+    ui_->ecSave->setFocus();  // takes what an open edit box holds: a mnemonic leaves it open
+    if (isOver() || document.isEmpty())
         return;
     bool uploaded = false;
     ErrorState errors;
-    if (!errors.Run([&] { uploaded = Write(); })) {
+    errors.Run([&] { uploaded = Write(); });
+    if (isOver())
+        return;
+    if (errors.Failed()) {
         SetStatusText(Tr(Text::HyperlinksNotSaved));
         return Warn(Format(Text::HyperlinkSaveError, errors.Description()));
     }
     SetPartName(partDisplayName, partfilename);
-    SetStatusText(uploaded ? Tr(Text::HyperlinksSaved) : Tr(Text::HyperlinksNotSaved));
+    if (!isOver())
+        SetStatusText(uploaded ? Tr(Text::HyperlinksSaved) : Tr(Text::HyperlinksNotSaved));
 }
 
 // Onto the document as it is now, so that an attempt that failed leaves nothing for the next one.

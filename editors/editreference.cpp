@@ -13,6 +13,7 @@
 #include "services/language.h"
 #include "services/seams.h"
 #include "services/texts.h"
+#include "services/webcopies.h"
 #include "shell/languagefonts.h"
 #include "shell/picturestore.h"
 #include "shell/twips.h"
@@ -88,13 +89,23 @@ void editReference::Layout() {
 void editReference::SetPartName(const QString& displayName, const QString& path) {
     if (path.isEmpty())
         return;
+    const QPointer<editReference> alive(this);
+    const QString document = path;
+    // Behind a box, a password's among them.
+    const auto isOver = [&] { return !alive || partfilename != document; };
     partDisplayName = displayName;
-    partfilename = path;
+    partfilename = document;
     ui_->editBox1->show();
     ui_->lblProgress->clear();
+    ui_->lv->List().Clear();
     const WaitCursor wait;
+    const QString local = LocalCopyOf(document);
+    if (isOver())
+        return;
     ErrorState errors;
-    errors.Run([this] { ListReferences(ui_->lv->List(), partfilename); });
+    errors.Run([&] { ListReferences(ui_->lv->List(), document, local); });
+    if (isOver())
+        return;
     ui_->lv->FitColumns();
     MakeRoom();
     if (errors.Failed())

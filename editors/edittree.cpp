@@ -9,6 +9,7 @@
 #include <limits>
 #include <utility>
 
+#include "editors/pendingtext.h"
 #include "shell/picturestore.h"
 
 namespace docbench {
@@ -102,10 +103,11 @@ void EditTree::BeginEdit(int node, const std::optional<QString>& text) {
         editor_->setText(*text);
 }
 
-// F2 edits the node before it is a shortcut of the window.
+// F2 edits the node before it is a shortcut of the window, which would leave the editor. So it does
+// nothing on a node that can't be edited, but for the document's.
 bool EditTree::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride &&
-        static_cast<QKeyEvent*>(event)->key() == Qt::Key_F2 && textToEdit_(SelectedNode()))
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_F2 && SelectedNode() > kDocumentNode)
         event->accept();
     return QTreeView::event(event);
 }

@@ -37,9 +37,9 @@ class Lister {
 public:
     explicit Lister(CellList& list) : list_(list) {}
 
-    void AddDocument(const QString& path) {
+    void AddDocument(const QString& path, const QString& local) {
         if (AddRow(path, QString()))
-            AddReferences(path);
+            AddReferences(path, local);
     }
 
 private:
@@ -56,6 +56,8 @@ private:
                     .tag = path,
                     .image = PictureOfType(path)};
         const bool found = IsWebPath(path) || FillFacts(row);
+        for (Cell& cell : row.cells)
+            cell.bold = list_.Count() == 0;
         list_.Append(std::move(row));
         return found;
     }
@@ -77,12 +79,12 @@ private:
         return true;
     }
 
-    void AddReferences(const QString& path) {
+    void AddReferences(const QString& path, const QString& local) {
         const QString webFolder = IsWebPath(path) ? UrlFolder(path) : QString();
         ErrorState errors;
         errors.Run([&] {
             const auto file = Documents().MakeDocumentFile();
-            file->Open(LocalCopyOf(path));
+            file->Open(local);
             if (file->GetReferencesLocked())
                 ShowLocked();
             for (int index = 0, count = file->GetComponentCount(); index < count; ++index)
@@ -122,14 +124,9 @@ PathColumn ReferencePathColumn() {
     return {kReferencePath, Tr(Text::FileColumn), Tr(Text::DocumentColumn)};
 }
 
-void ListReferences(CellList& list, const QString& document) {
+void ListReferences(CellList& list, const QString& document, const QString& local) {
     list.Clear();
-    Lister(list).AddDocument(document);
-    if (list.Count() > 0)
-        list.Change(0, [](CellRow& row) {
-            for (Cell& cell : row.cells)
-                cell.bold = true;
-        });
+    Lister(list).AddDocument(document, local);
 }
 
 }  // namespace docbench

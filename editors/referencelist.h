@@ -22,7 +22,8 @@ void PrepareReferenceList(CellList& list);  // its headers, with whole paths
 PathColumn ReferencePathColumn();
 
 // Replaces the rows by those of a document: itself, in bold, then what it refers to, one level deep
-// and each once. A box tells that it can't be read; the rows until then stay.
-void ListReferences(CellList& list, const QString& document);
+// and each once. `local` is its local copy. A box tells that it can't be read; the rows until then
+// stay, and nothing follows the box, behind which the list may go away.
+void ListReferences(CellList& list, const QString& document, const QString& local);
 
 }  // namespace docbench

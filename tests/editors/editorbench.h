@@ -79,23 +79,29 @@ struct EditorBench {
     static void Settle() {
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents();  // the message of a refused name
     }
     void PressDelete(int node) {
         View()->setFocus();
         View()->setCurrentIndex(Tree().IndexOf(node));
         QTest::keyClick(View(), Qt::Key_Delete);
     }
-    void Drop(int node, const QStringList& paths) {
+    // Whether the tree takes what is dragged.
+    bool Drop(const QMimeData& data, QPoint where) {
+        QDragEnterEvent enter(where, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        enter.ignore();
+        QCoreApplication::sendEvent(View()->viewport(), &enter);
+        QDropEvent drop(where, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(View()->viewport(), &drop);
+        return enter.isAccepted();
+    }
+    bool Drop(int node, const QStringList& paths) {
         QMimeData data;
         QList<QUrl> urls;
         for (const QString& path : paths)
             urls.append(QUrl::fromLocalFile(path));
         data.setUrls(urls);
-        const QPoint where = CentreOf(node);
-        QDragEnterEvent enter(where, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(View()->viewport(), &enter);
-        QDropEvent drop(where, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(View()->viewport(), &drop);
+        return Drop(data, CentreOf(node));
     }
     void Save() { QTest::mouseClick(SaveButton(), Qt::LeftButton); }
     void Reset() { QTest::mouseClick(ResetButton(), Qt::LeftButton); }

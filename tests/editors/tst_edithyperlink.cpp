@@ -97,6 +97,9 @@ private Q_SLOTS:
         bench.pane->SetPartName("old", MakeOldDocument(bench.library, "old.tfmprt"));
         QVERIFY(bench.ShowsOldFormat());
         QCOMPARE(bench.status.caption, gStrings[146]);
+        bench.Load({"a"});
+        QVERIFY(!bench.ShowsOldFormat() && bench.View()->isVisible());
+        QCOMPARE(bench.Texts(), QStringList("a"));
     }
 
     void aDocumentThatCantBeReadIsTold() {
@@ -167,11 +170,12 @@ private Q_SLOTS:
         FakeShellExecute shell;
         bench.Load({"http://a/", "http://b/"});
         bench.DoubleClick(2);
+        QVERIFY(!bench.EditBox());
         bench.Type(3, "http://unsaved/");
         bench.DoubleClick(3);
+        QVERIFY(!bench.EditBox());
         bench.DoubleClick(1);
         QCOMPARE(shell.calls, QStringList({"Open|http://a/|0|0|1", "Open|http://unsaved/|0|0|1"}));
-        QVERIFY(!bench.EditBox());
         QTest::keyClick(bench.View(), Qt::Key_Return);  // on the root
         bench.View()->setCurrentIndex(bench.Tree().IndexOf(2));
         QTest::keyClick(bench.View(), Qt::Key_Return);

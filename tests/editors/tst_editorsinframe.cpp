@@ -79,7 +79,13 @@ private Q_SLOTS:
         QVERIFY(tree->findChild<QLineEdit*>("labelEdit"));
         QCOMPARE(bench.frame.Shell().CurrentFunction(), QString("EDIT"));
         QTest::keyClick(tree->findChild<QLineEdit*>("labelEdit"), Qt::Key_Escape);
-        tree->setCurrentIndex(tree->Tree().IndexOf(1));  // which can't be edited
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QTest::keyClick(tree, Qt::Key_Delete);
+        QTest::keyClick(tree, Qt::Key_F2);  // a deleted one is not edited, and its mark stays
+        QVERIFY(!tree->findChild<QLineEdit*>("labelEdit"));
+        QCOMPARE(bench.frame.Shell().CurrentFunction(), QString("EDIT"));
+        QCOMPARE(tree->Tree().Nodes().At(2).image, QString("picConfigDel"));
+        tree->setCurrentIndex(tree->Tree().IndexOf(1));  // the document
         QTest::keyClick(tree, Qt::Key_F2);
         QCOMPARE(bench.frame.Shell().CurrentFunction(), QString("RENAME"));
     }

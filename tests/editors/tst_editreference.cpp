@@ -80,15 +80,41 @@ struct Bench {
         QTest::mouseClick(View()->viewport(), Qt::RightButton, {},
                           row < 0 ? QPoint(5, View()->viewport()->height() - 5)
                                   : View()->visualRect(List().index(row, 0)).center());
+        if (!Child<QMenu>("mnlistmenu")->isVisible())
+            qFatal("no menu");
         Child<QMenu>("mnlistmenu")->hide();
     }
-    void ClickHeader(int column) { Q_EMIT View()->header()->sectionClicked(column); }
+    void ClickHeader(int column) {
+        QHeaderView* header = View()->header();
+        QTest::mouseClick(
+            header->viewport(), Qt::LeftButton, {},
+            QPoint(header->sectionViewportPosition(column) + 20, header->viewport()->height() / 2));
+    }
 
     TestLibrary library;
     TestDialogs dialogs;
     FakeStatusLine status;
     QString pin, sub, lost, top;
     std::unique_ptr<editReference> pane;
+};
+
+// A server in whose next transfer something happens, as it may while a password is asked for.
+struct AskingWeb : FakeWeb {
+    struct Client : FakeWebClient {
+        using FakeWebClient::FakeWebClient;
+        bool GetFile(const QString& url, const QString& localPath) override {
+            if (const auto action = std::exchange(meanwhile, {}))
+                action();
+            return FakeWebClient::GetFile(url, localPath);
+        }
+        std::function<void()> meanwhile;
+    };
+    AskingWeb() {
+        auto made = std::make_unique<Client>(server);
+        client = made.get();
+        gWebFolder = std::move(made);
+    }
+    Client* client = nullptr;
 };
 
 }  // namespace
@@ -312,6 +338,49 @@ private Q_SLOTS:
             QCOMPARE(bench.Row(row).cells[0].foreColor, kColorNormal);
         }
         QCOMPARE(web.server.calls, QStringList("get " + folder + "top.tfmasm"));
+    }
+
+    void thePaneMayGoAwayBehindABox_data() {
+        QTest::addColumn<QString>("which");
+        for (const char* which : {"a document that can't be read", "a password"})
+            QTest::newRow(which) << which;
+    }
+    void thePaneMayGoAwayBehindABox() {
+        QFETCH(QString, which);
+        Bench bench;
+        AskingWeb web;
+        if (which == "a password") {
+            web.client->meanwhile = [&] { bench.pane.reset(); };
+            bench.Load("http://server/docs/top.tfmasm");
+        } else {
+            bench.dialogs.Meanwhile([&] { bench.pane.reset(); });
+            bench.dialogs.Expect("*");
+            bench.Load(bench.library.MakeBroken("broken.tfmasm"));
+        }
+        QVERIFY(!bench.pane);
+        QVERIFY(bench.dialogs.AllCame());
+    }
+
+    void anotherDocumentMayComeBehindABox_data() { thePaneMayGoAwayBehindABox_data(); }
+    void anotherDocumentMayComeBehindABox() {
+        QFETCH(QString, which);
+        Bench bench;
+        AskingWeb web;
+        QFile file(bench.top);
+        QVERIFY(file.open(QFile::ReadOnly));
+        web.server.files["http://server/docs/top.tfmasm"] = file.readAll();
+        if (which == "a password") {
+            web.client->meanwhile = [&] { bench.Load(bench.sub); };
+            bench.Load("http://server/docs/top.tfmasm");
+            QCOMPARE(gWebCopies.keys(), QStringList("http://server/docs/top.tfmasm"));
+        } else {
+            bench.dialogs.Meanwhile([&] { bench.Load(bench.sub); });
+            bench.dialogs.Expect("*");
+            bench.Load(bench.library.MakeBroken("broken.tfmasm"));
+        }
+        QVERIFY(bench.dialogs.AllCame());
+        QCOMPARE(bench.Tags(), QStringList({bench.sub, bench.pin}));
+        QVERIFY(bench.Row(0).cells[0].bold && !bench.Row(1).cells[0].bold);
     }
 
     void noPathKeepsTheList() {

@@ -164,10 +164,111 @@ void KeepsTheUploadThroughARenaming() {
     QVERIFY(!bench.CanSave());
 }
 
+// Something happens during the next transfer, as it may while a password is asked for.
+struct AskingClient : FakeWebClient {
+    using FakeWebClient::FakeWebClient;
+    bool GetFile(const QString& url, const QString& localPath) override {
+        Ask();
+        return FakeWebClient::GetFile(url, localPath);
+    }
+    bool PutFile(const QString& localPath, const QString& url) override {
+        Ask();
+        return FakeWebClient::PutFile(localPath, url);
+    }
+    void Ask() {
+        if (const auto action = std::exchange(meanwhile, {}))
+            action();
+    }
+    std::function<void()> meanwhile;
+};
+
+template <typename Editor>
+struct AskingBench : Bench<Editor> {
+    AskingBench() {
+        auto made = std::make_unique<AskingClient>(this->web.server);
+        client = made.get();
+        gWebFolder = std::move(made);
+        other = this->library.Make("other.tfmprt");
+        DocumentBuilder document = DocumentBuilder::Edit(other);
+        Editor::Add(document, "theirs");
+        document.Save();
+    }
+    AskingClient* client = nullptr;
+    QString other;
+};
+
+// The pane gets another document while a password is asked for.
+template <typename Editor>
+void MayGetAnotherDocument(bool uploading) {
+    AskingBench<Editor> bench;
+    if (uploading)
+        bench.Type(2, "mine");
+    else
+        gWebCopies.clear();
+    bench.client->meanwhile = [&] { bench.pane->SetPartName("other", bench.other); };
+    if (uploading)
+        bench.Save();
+    else
+        bench.Show();
+    QVERIFY(!bench.client->meanwhile);
+    QCOMPARE(bench.Texts(), QStringList("theirs"));
+    QVERIFY(bench.Caption().contains('1'));  // how many it has
+    QCOMPARE(gWebCopies.keys(), QStringList(bench.url));
+    bench.Type(2, "changed");
+    bench.Save();
+    QCOMPARE(Editor::Read(bench.other), QString("changed"));
+    QCOMPARE(bench.OnServer(), QString(uploading ? "mine" : "a"));
+}
+
+template <typename Editor>
+void MayGoAwayBehindAPassword(bool uploading) {
+    AskingBench<Editor> bench;
+    if (uploading)
+        bench.Type(2, "mine");
+    else
+        gWebCopies.clear();
+    bench.client->meanwhile = [&] { bench.pane.reset(); };
+    if (uploading)
+        QMetaObject::invokeMethod(bench.SaveButton(), "click");
+    else
+        bench.Show();
+    QVERIFY(!bench.pane);
+}
+
+template <typename Editor>
+void MayGoAwayBehindARefusal() {
+    Bench<Editor> bench;
+    bench.Type(2, "mine");
+    bench.web.server.refusesUploads = true;
+    bench.dialogs.Meanwhile([&] { bench.pane.reset(); });
+    bench.dialogs.Expect("File save to server failed", Dialogs::Icon::None);
+    QMetaObject::invokeMethod(bench.SaveButton(), "click");
+    QVERIFY(bench.dialogs.AllCame());
+    QVERIFY(!bench.pane);
+}
+
+template <typename Editor>
+void ToldOfAnOldFormat() {
+    Bench<Editor> bench;
+    const QString old = MakeOldDocument(bench.library, "old.tfmprt");
+    bench.web.server.files["http://server/docs/old.tfmprt"] = BytesOf(old);
+    bench.pane->SetPartName("old", "http://server/docs/old.tfmprt");
+    QVERIFY(bench.ShowsOldFormat());
+    bench.Show();
+    QVERIFY(!bench.ShowsOldFormat());
+    QCOMPARE(bench.Texts(), QStringList("a"));
+}
+
 }  // namespace
 
 class TestTreeUploads : public QObject {
     Q_OBJECT
+
+    static void Transfers() {
+        QTest::addColumn<bool>("uploading");
+        QTest::newRow("loading") << false;
+        QTest::newRow("saving") << true;
+    }
 
 private Q_SLOTS:
     void aWebDocumentsConfigurationsAreWrittenBack() { WritesBack<Configurations>(); }
@@ -208,6 +309,30 @@ private Q_SLOTS:
     void whatWasToBeUploadedGoesWithItsCopy() {
         ForgetsTheUploadWithTheCopy<Configurations>();
         ForgetsTheUploadWithTheCopy<Hyperlinks>();
+    }
+
+    void anotherDocumentMayComeBehindAPassword_data() { Transfers(); }
+    void anotherDocumentMayComeBehindAPassword() {
+        QFETCH(bool, uploading);
+        MayGetAnotherDocument<Configurations>(uploading);
+        MayGetAnotherDocument<Hyperlinks>(uploading);
+    }
+
+    void thePaneMayGoAwayBehindAPassword_data() { Transfers(); }
+    void thePaneMayGoAwayBehindAPassword() {
+        QFETCH(bool, uploading);
+        MayGoAwayBehindAPassword<Configurations>(uploading);
+        MayGoAwayBehindAPassword<Hyperlinks>(uploading);
+    }
+
+    void thePaneMayGoAwayBehindARefusedUpload() {
+        MayGoAwayBehindARefusal<Configurations>();
+        MayGoAwayBehindARefusal<Hyperlinks>();
+    }
+
+    void anOldFormatIsToldOfAWebDocument() {
+        ToldOfAnOldFormat<Configurations>();
+        ToldOfAnOldFormat<Hyperlinks>();
     }
 
     void aRenamedDocumentKeepsWhatIsToBeUploaded() {
