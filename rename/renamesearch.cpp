@@ -2,7 +2,6 @@
 
 #include <QSet>
 
-#include "panes/holdersearch.h"
 #include "rename/renamelist.h"
 #include "services/language.h"
 
@@ -22,7 +21,7 @@ bool SearchHolders(const RenameSearch& search, const QString& folders, RowBatch&
                 rows.Offer();
                 search.progress(counts, rows.Count());
             },
-        .mirrors = HolderSearch::Mirrors::WholeText,
+        .mirrors = search.mirrors,
         .take =
             [&](const FoundReference& found, const QString& holder, const QString& relation) {
                 // A component is a plain reference whatever the types.
@@ -32,7 +31,8 @@ bool SearchHolders(const RenameSearch& search, const QString& folders, RowBatch&
                     return;
                 listed.insert(key);
                 rows.Add(HolderRow(found, holder, shown, found.document, search.parent));
-            }};
+            },
+        .unsearched = search.unsearched};
     return shared.Run(folders);
 }
 

@@ -70,12 +70,15 @@ QString PasswordProblem(const QStringList& words);
 // Text for a terminal: its paragraphs in lines of at most 80 characters; indented ones stay.
 QString Wrapped(const QString& text);
 
-// Folders to search: those of the options, else `otherwise`. Raises UsageError for one that is not
-// there.
+// Folders to search: those of the options, else `otherwise`, named lists expanded. Raises
+// UsageError for one that is not there or that can't be searched, DocumentError for a gone one of a
+// list.
 QList<QCommandLineOption> FolderOptions(const QString& otherwise);
 bool LimitsSearch(const QCommandLineParser& line);  // by one of them, or by the kinds below
 bool WithSubfolders(const QCommandLineParser& line);
 QString FoldersToSearch(const QCommandLineParser& line, const QString& otherwise);
+// For who must have seen every folder: raises DocumentError.
+[[noreturn]] void RaiseUnsearched(const QString& folder, const QString& reason);
 
 // Which kinds of use a search for the users of a document looks for. Raises UsageError.
 QCommandLineOption KindsOption();

@@ -167,6 +167,7 @@ int ListParents(const QCommandLineParser& line, Lists& lists, Console& console) 
     if (!line.isSet(kUsersOption))
         return 0;
     SearchCounts counts;
+    QStringList unsearched;  // a folder and why, one behind the other
     const ParentSearch parents{
         .search = {.document = lists.source,
                    .kinds = KindsToFind(line),
@@ -174,12 +175,16 @@ int ListParents(const QCommandLineParser& line, Lists& lists, Console& console) 
                    .status = [&](const QString& text) { console.ShowProgress(text); },
                    .yield = [] {},
                    .cancelled = [] { return false; },
-                   .progress = [&](const SearchCounts& now) { counts = now; }},
+                   .progress = [&](const SearchCounts& now) { counts = now; },
+                   .unsearched = [&](const QString& folder,
+                                     const QString& reason) { unsearched << folder << reason; }},
         .targetFolder = lists.folder,
         .affixes = lists.affixes};
     RowBatch rows = ParentRows(lists.parents);
     SearchParents(parents, FoldersToSearch(line, FolderOf(lists.source)), rows);
     rows.Flush();
+    if (!unsearched.isEmpty())
+        RaiseUnsearched(unsearched[0], unsearched[1]);
     return counts.unread;
 }
 

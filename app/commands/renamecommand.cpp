@@ -100,7 +100,9 @@ void Search(const QCommandLineParser& line, const RenamePlan& plan, CellList& li
             [&](const SearchCounts& counts, int) {
                 if (counts.unread > 0)
                     console.ShowProgress(QStringLiteral("%1 unread").arg(counts.unread));
-            }};
+            },
+        .mirrors = HolderSearch::Mirrors::EachEntry,
+        .unsearched = RaiseUnsearched};
     SearchHolders(search, FoldersToSearch(line, FolderOf(plan.oldPath)), rows);
     rows.Flush();
 }
