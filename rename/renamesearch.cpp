@@ -1,6 +1,7 @@
 #include "rename/renamesearch.h"
 
-#include <QSet>
+#include <QHash>
+#include <utility>
 
 #include "rename/renamelist.h"
 #include "services/language.h"
@@ -8,7 +9,8 @@
 namespace docbench {
 
 bool SearchHolders(const RenameSearch& search, const QString& folders, RowBatch& rows) {
-    QSet<QString> listed;  // holders with their relations
+    using Place = std::pair<int, bool>;  // index and table
+    QHash<QString, Place> listed;        // of holders with their relations
     const HolderSearch shared{
         .document = search.document,
         .kinds = search.kinds,
@@ -27,9 +29,13 @@ bool SearchHolders(const RenameSearch& search, const QString& folders, RowBatch&
                 // A component is a plain reference whatever the types.
                 const QString shown = found.inContext ? relation : gRelationDefault;
                 const QString key = holder + u'\0' + shown;
-                if (listed.contains(key))
+                const Place place(found.referenceIndex, found.inContext);
+                if (const auto first = listed.constFind(key); first != listed.cend()) {
+                    if (search.repeated && *first != place)
+                        search.repeated(holder);
                     return;
-                listed.insert(key);
+                }
+                listed.insert(key, place);
                 rows.Add(HolderRow(found, holder, shown, found.document, search.parent));
             },
         .unsearched = search.unsearched};

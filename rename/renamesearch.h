@@ -22,6 +22,8 @@ struct RenameSearch {
     std::function<bool()> cancelled;  // asked after each yield
     std::function<void(const SearchCounts& counts, int rows)> progress;
     HolderSearch::Mirrors mirrors = HolderSearch::Mirrors::WholeText;
+    // Is told of each further reference of a holder, which gets no row.
+    std::function<void(const QString& holder)> repeated = {};
     // Is told of a folder that can't be searched at all. Without it that is passed over.
     std::function<void(const QString& folder, const QString& reason)> unsearched = {};
 };
