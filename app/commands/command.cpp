@@ -101,11 +101,16 @@ void RequireWritable(const QString& path) {
         throw DocumentError(problem);
 }
 
-void RequireUnlocked(const QString& path) {
+QString ReservationProblem(const QString& path) {
     const auto info = Documents().MakeDocumentInfo();
-    if (info->Open(LocalCopyOf(path)) && info->GetLocked())
-        throw DocumentError(
-            QStringLiteral("%1 is locked by %2: unlock it first.").arg(path, info->GetLockedBy()));
+    if (!info->Open(LocalCopyOf(path)) || !info->GetLocked())
+        return {};
+    return QStringLiteral("%1 is locked by %2: unlock it first.").arg(path, info->GetLockedBy());
+}
+
+void RequireUnlocked(const QString& path) {
+    if (const QString problem = ReservationProblem(path); !problem.isEmpty())
+        throw DocumentError(problem);
 }
 
 QString DocumentPath(const QString& word) {

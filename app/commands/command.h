@@ -58,8 +58,9 @@ std::unique_ptr<DocumentFile> OpenDocument(const QString& path);
 void RequireTables(DocumentFile& file, const QString& path);
 void RequireWritable(const QString& path);
 void RequireUnlocked(const QString& path);
-// Why a document may not be written; empty when it may.
+// Why a document may not be written, and who has reserved it; empty when it may, and is free.
 QString WritingProblem(const QString& path);
+QString ReservationProblem(const QString& path);
 
 // The whole path of a document that was named on the line; an address as it stands.
 QString DocumentPath(const QString& word);

@@ -213,6 +213,14 @@ bool Check(Lists& lists) {
     }
 }
 
+bool Refuses(const QStringList& problems, Console& console) {
+    for (const QString& problem : problems)
+        console.Warn(problem);
+    if (!problems.isEmpty())
+        console.Warn(QStringLiteral("Nothing was copied. Choose other names."));
+    return !problems.isEmpty();
+}
+
 bool MayWriteTargets(const CopyPlan& plan, bool overwrites, Console& console) {
     if (const QString itself = CopiedOntoItself(plan); !itself.isEmpty())
         throw UsageError(QStringLiteral("%1 would be copied onto itself. Give another folder with "
@@ -226,6 +234,9 @@ bool MayWriteTargets(const CopyPlan& plan, bool overwrites, Console& console) {
                            "--target."));
         return false;
     }
+    if (Refuses(TargetsInUse(plan), console) ||
+        (overwrites && Refuses(TargetProblems(plan), console)))
+        return false;
     const QStringList existing = overwrites ? QStringList() : ExistingTargets(plan);
     for (const QString& target : existing)
         console.Warn(QStringLiteral("%1 is already there.").arg(target));
@@ -280,8 +291,10 @@ QList<QCommandLineOption> CopyCommand::Options() const {
     options += FolderOptions(QStringLiteral("the folder of FILE"));
     options.append(KindsOption());
     options.append(
-        {kOverwriteOption, QStringLiteral("Writes over what is there. Without it, a copy whose "
-                                          "name is taken stops everything before it begins.")});
+        {kOverwriteOption, QStringLiteral("Writes over what is there, unless it is reserved, "
+                                          "write-protected or copied itself. Without it, a copy "
+                                          "whose name is taken stops everything before it "
+                                          "begins.")});
     return options + ChangeOptions();
 }
 
