@@ -29,6 +29,8 @@ public:
     // How many words it takes.
     virtual int FewestWords() const { return 1; }
     virtual int MostWords() const { return 1; }
+    // How many of the first words name something, and so can't be empty.
+    virtual int Names() const { return MostWords(); }
 
     // Does it and gives the program's exit code. Errors may be raised; they are told, and end with
     // the code for what was done in part, or with that of their class.

@@ -82,6 +82,7 @@ struct Lists {
     QString target;
     CellList copies;
     CellList parents;
+    QStringList targeted;  // sources with a target of their own
     QHash<QString, QString> replacedFiles;
 
     CopyPlan Plan() { return {source, target, copies, parents, replacedFiles}; }
@@ -138,9 +139,13 @@ void SetTarget(const QString& assignment, Lists& lists) {
          equals = assignment.indexOf(u'=', equals + 1)) {
         const QString source = DocumentPath(assignment.left(equals));
         const QString target = assignment.mid(equals + 1);
-        if (!target.isEmpty() &&
-            SetTarget(source, TargetNamed(target, source, lists.folder), lists.copies))
-            return;
+        if (target.isEmpty() ||
+            !SetTarget(source, TargetNamed(target, source, lists.folder), lists.copies))
+            continue;
+        if (lists.targeted.contains(source))
+            throw UsageError(QStringLiteral("--target may be given once for %1.").arg(source));
+        lists.targeted.append(source);
+        return;
     }
     throw UsageError(QStringLiteral("\"%1\" does not read like SOURCE=TARGET, with a document that "
                                     "is copied along as SOURCE.")
