@@ -158,8 +158,12 @@ QList<QCommandLineOption> ChangeOptions() {
              QStringLiteral("Doesn't ask. Needed where nobody can be asked.")}};
 }
 
+bool IsDryRun(const QCommandLineParser& line) {
+    return line.isSet(kDryRunOption);
+}
+
 Decision DecideAbout(const TextTable& plan, const QCommandLineParser& line, Console& console) {
-    if (line.isSet(kDryRunOption)) {
+    if (IsDryRun(line)) {
         console.PrintTable(plan);
         console.PrintJson(
             {{QStringLiteral("dryRun"), true}, {QStringLiteral("changes"), RowsAsJson(plan)}});

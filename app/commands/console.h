@@ -55,6 +55,7 @@ private:
 
 // What changes documents says first what it is going to change.
 QList<QCommandLineOption> ChangeOptions();
+bool IsDryRun(const QCommandLineParser& line);
 enum class Decision { Go, DryRun, No, NeedsYes };
 // `plan` has headers in its first row. Prints it unless the command was told --yes, and asks on a
 // terminal.
