@@ -22,11 +22,6 @@ const QString kNoSubfoldersOption = QStringLiteral("no-subfolders");
 const QString kKindsOption = QStringLiteral("kinds");
 const QString kOutputOption = QStringLiteral("output");
 
-bool IsAddress(const QString& folder) {
-    return folder.startsWith(QLatin1String("http:"), Qt::CaseInsensitive) ||
-           folder.startsWith(QLatin1String("https:"), Qt::CaseInsensitive);
-}
-
 QStringList FoldersOfList(const QString& word) {
     const QString list = word.mid(1);
     const QStringList folders = ExpandFolderList(word).split(u';', Qt::SkipEmptyParts);
@@ -115,6 +110,11 @@ void RequireUnlocked(const QString& path) {
 
 QString DocumentPath(const QString& word) {
     return IsWebPath(word) ? word : QFileInfo(word).absoluteFilePath();
+}
+
+bool IsAddress(const QString& folder) {
+    return folder.startsWith(QLatin1String("http:"), Qt::CaseInsensitive) ||
+           folder.startsWith(QLatin1String("https:"), Qt::CaseInsensitive);
 }
 
 QString PasswordProblem(const QStringList& words) {

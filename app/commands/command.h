@@ -73,6 +73,9 @@ QString PasswordProblem(const QStringList& words);
 // Text for a terminal: its paragraphs in lines of at most 80 characters; indented ones stay.
 QString Wrapped(const QString& text);
 
+// True for the address of a web folder; not for a folder that has http in its name.
+bool IsAddress(const QString& folder);
+
 // Folders to search: those of the options, else `otherwise`, named lists expanded. Raises
 // UsageError for one that is not there or that can't be searched, DocumentError for a gone one of a
 // list.

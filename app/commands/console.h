@@ -13,6 +13,10 @@ class QCommandLineParser;
 
 namespace docbench {
 
+// The text with a mark for each line break and other control character, which would break a table's
+// lines, or steer the terminal.
+QString OneLine(QString text);
+
 class Console {
 public:
     enum class Format { Text, Json, Null };

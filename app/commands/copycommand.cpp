@@ -152,6 +152,17 @@ void SetTarget(const QString& assignment, Lists& lists) {
                          .arg(assignment));
 }
 
+// A replacement of text may have reached an extension.
+void RequireTypes(const CellList& copies) {
+    for (const CellRow& row : copies.Rows()) {
+        const CopyRow copy = ReadCopyRow(row);
+        if (DocTypeOf(copy.source) != DocTypeOf(copy.target))
+            throw UsageError(
+                QStringLiteral("%1 would be copied to %2. ").arg(copy.source, copy.target) +
+                Tr(Text::TargetOfOtherType));
+    }
+}
+
 void ListCopies(const QCommandLineParser& line, Lists& lists, Console& console) {
     PrepareCopyList(lists.copies);
     ListReferences({.document = lists.source,
@@ -164,6 +175,7 @@ void ListCopies(const QCommandLineParser& line, Lists& lists, Console& console) 
         TextReplace(lists.copies).ReplaceAll(line.value(kFindOption), line.value(kReplaceOption));
     for (const QString& assignment : line.values(kTargetOption))
         SetTarget(assignment, lists);
+    RequireTypes(lists.copies);
 }
 
 // How many documents the search could not read.
