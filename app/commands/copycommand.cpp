@@ -210,6 +210,15 @@ auto CountTicked(const CellList& list) {
                          [](const CellRow& row) { return row.ticked; });
 }
 
+// Those that the search has found to be write-protected.
+void TellProtected(const CellList& parents, Console& console) {
+    for (const CellRow& row : parents.Rows()) {
+        const QString problem = row.ticked ? QString() : WritingProblem(ReadParentRow(row).parent);
+        if (!problem.isEmpty())
+            console.Warn(problem);
+    }
+}
+
 // Each parent that can't be written is taken out, with a message, until the others are good.
 bool Check(Lists& lists) {
     for (;;) {
@@ -326,14 +335,16 @@ int CopyCommand::Run(const QCommandLineParser& line, Console& console) const {
     lists.target = OwnTarget(line, lists);
     ListCopies(line, lists, console);
     const int unread = ListParents(line, lists, console);
+    TellProtected(lists.parents, console);
     const CopyPlan plan = lists.Plan();
     const bool overwrites = line.isSet(kOverwriteOption);
     if (!Check(lists) || !MayWriteTargets(plan, overwrites, console))
         return kExitPartly;
     console.WarnOfUnread(unread);
+    const bool lacking = unread > 0 || CountTicked(lists.parents) < lists.parents.Count();
     const Decision decision = DecideAbout(CopyPlanAsTable(plan), line, console);
     if (decision != Decision::Go)
-        return ExitCodeOf(decision, console);
+        return std::max(ExitCodeOf(decision, console), lacking ? kExitPartly : kExitDone);
 
     const CopyResult result = Carry(plan, overwrites, console);
     if (result.end != CopyResult::End::Done) {
@@ -345,7 +356,7 @@ int CopyCommand::Run(const QCommandLineParser& line, Console& console) const {
     console.PrintTable(outcome.table);
     console.PrintJson({{QStringLiteral("document"), plan.target},
                        {QStringLiteral("rows"), RowsAsJson(outcome.table)}});
-    return outcome.complete && unread == 0 ? kExitDone : kExitPartly;
+    return outcome.complete && !lacking ? kExitDone : kExitPartly;
 }
 
 }  // namespace docbench

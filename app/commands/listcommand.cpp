@@ -79,7 +79,8 @@ int Delete(const QString& name, const QString& valueName, Console& console) {
 QString ListCommand::Help() const {
     return QStringLiteral(
         "Without NAME all lists are shown, with NAME that one. With folders the list is set to "
-        "them. The searching commands take a list by its name with a blank before it.\n\n"
+        "them; an address stays as it is. The searching commands take a list by its name with a "
+        "blank before it.\n\n"
         "  docbench list Vendors /work/fasteners /work/bearings\n"
         "  docbench where-used --in ' Vendors' bolt.tfmprt\n");
 }

@@ -112,7 +112,8 @@ QString LockCommand::Summary() const {
 QString LockCommand::Help() const {
     return QStringLiteral(
                "The record is in the document, and every user sees it. Only who locked a document "
-               "can unlock it.\n\n  docbench %1 --yes gearbox.tfmasm\n")
+               "can unlock it. What is missing, write-protected or reserved by somebody else is "
+               "left out, with a message.\n\n  docbench %1 --yes gearbox.tfmasm\n")
         .arg(Name());
 }
 

@@ -50,8 +50,8 @@ struct Search {
 
     void Run(const QCommandLineParser& line, const RenamePlan& plan, CellList& list,
              Console& console);
-    // Says what the plan will not show. False when there is nothing of that kind.
-    bool Tell(const QString& document, const CellList& list, Console& console) const;
+    // Says what the plan will not show. True when something stays undone by it.
+    bool TellLacking(const QString& document, const CellList& list, Console& console) const;
 };
 
 void Search::Run(const QCommandLineParser& line, const RenamePlan& plan, CellList& list,
@@ -83,7 +83,16 @@ void Search::Run(const QCommandLineParser& line, const RenamePlan& plan, CellLis
     rows.Flush();
 }
 
-bool Search::Tell(const QString& document, const CellList& list, Console& console) const {
+// Those that the search has found to be write-protected.
+void TellProtected(const CellList& list, Console& console) {
+    for (const CellRow& row : list.Rows()) {
+        const QString problem = row.ticked ? QString() : WritingProblem(ReadRow(row).holder);
+        if (!problem.isEmpty())
+            console.Warn(problem);
+    }
+}
+
+bool Search::TellLacking(const QString& document, const CellList& list, Console& console) const {
     console.WarnOfUnread(unread);
     for (const QString& holder : repeating)
         console.Warn(QStringLiteral("%1 refers to %2 more than once; only the first reference is "
@@ -178,8 +187,9 @@ int RenameCommand::Run(const QCommandLineParser& line, Console& console) const {
     CellList list;
     Search search;
     search.Run(line, plan, list, console);
+    TellProtected(list, console);
     CheckAllHolders(list, subject, plan.newPath);
-    const bool lacking = search.Tell(document, list, console);
+    const bool lacking = search.TellLacking(document, list, console);
     const FoundHolders holders{list, search.repeating, ParentApartFrom(list, plan)};
     const Decision decision = DecideAbout(RenamePlanAsTable(plan, holders), line, console);
     if (decision != Decision::Go)
