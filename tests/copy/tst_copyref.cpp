@@ -2,11 +2,11 @@
 
 #include <QMenu>
 
-#include "services/spreadsheet.h"
 #include "tests/copy/copybench.h"
 #include "tests/copy/copyproject.h"
 #include "tests/support/failingaccess.h"
 #include "tests/support/fakeoutside.h"
+#include "tests/support/fakespreadsheet.h"
 #include "tests/support/testenvironment.h"
 #include "whereused/filemissingdialog.h"
 #include "whereused/searchdialog.h"
@@ -14,21 +14,6 @@
 using namespace docbench;
 
 namespace {
-
-class FakeSpreadsheet : public Spreadsheet {
-public:
-    FakeSpreadsheet() { gSeams.spreadsheet = this; }
-    ~FakeSpreadsheet() override { gSeams.spreadsheet = nullptr; }
-    QString Show(const TextTable& table) override {
-        if (shows)
-            shows();
-        shown = table;
-        return fails ? QString() : QString("/docs/list.xlsx");
-    }
-    TextTable shown;
-    bool fails = false;
-    std::function<void()> shows;  // meanwhile
-};
 
 const char* const kInputs[] = {"apply",  "browse", "Findnow",    "searchrule", "targetPath",
                                "toFile", "prefix", "BrowseFile", "children",   "whereused"};
@@ -472,7 +457,7 @@ private Q_SLOTS:
         } else {
             FakeSpreadsheet spreadsheet;
             spreadsheet.fails = true;
-            spreadsheet.shows = [&] { delete bench.pane; };
+            spreadsheet.meanwhile = [&] { delete bench.pane; };
             QMetaObject::invokeMethod(bench.pane->findChild<QAction*>("mnexport"), "trigger");
         }
         QVERIFY(!bench.pane);

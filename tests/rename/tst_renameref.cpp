@@ -18,10 +18,10 @@
 #include "rename/renameref.h"
 #include "services/language.h"
 #include "services/seams.h"
-#include "services/spreadsheet.h"
 #include "services/texts.h"
 #include "tests/shell/shellbench.h"
 #include "tests/support/failingaccess.h"
+#include "tests/support/fakespreadsheet.h"
 #include "tests/support/filelockholder.h"
 #include "tests/support/testdialogs.h"
 #include "tests/support/testenvironment.h"
@@ -30,17 +30,6 @@
 using namespace docbench;
 
 namespace {
-
-class FakeSpreadsheet : public Spreadsheet {
-public:
-    FakeSpreadsheet() { gSeams.spreadsheet = this; }
-    ~FakeSpreadsheet() override { gSeams.spreadsheet = nullptr; }
-    QString Show(const TextTable& table) override {
-        shown = table;
-        return "/docs/list.xlsx";
-    }
-    TextTable shown;
-};
 
 // The pane on screen for a part of a small project: top -> left -> pin, right -> pin.
 struct Bench {

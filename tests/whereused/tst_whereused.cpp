@@ -17,12 +17,12 @@
 #include "services/language.h"
 #include "services/scratch.h"
 #include "services/settingsstore.h"
-#include "services/spreadsheet.h"
 #include "services/texts.h"
 #include "services/webdocument.h"
 #include "tests/shell/shellbench.h"
 #include "tests/support/fakefinder.h"
 #include "tests/support/fakeoutside.h"
+#include "tests/support/fakespreadsheet.h"
 #include "tests/support/fakewebclient.h"
 #include "tests/support/testdialogs.h"
 #include "tests/support/testenvironment.h"
@@ -32,20 +32,6 @@
 using namespace docbench;
 
 namespace {
-
-class FakeSpreadsheet : public Spreadsheet {
-public:
-    FakeSpreadsheet() { gSeams.spreadsheet = this; }
-    ~FakeSpreadsheet() override { gSeams.spreadsheet = nullptr; }
-    QString Show(const TextTable& table) override {
-        if (fails)
-            throw DocumentError("no room");
-        shown = table;
-        return "/docs/list.xlsx";
-    }
-    TextTable shown;
-    bool fails = false;
-};
 
 // The pane on screen over folders that a test fills.
 struct Bench {
