@@ -44,6 +44,17 @@ QStringList AncestorChain(const QString& document, const QString& root) {
         QStringLiteral("%1 is not in the reference tree of %2.").arg(document, root));
 }
 
+// False, and a message says why, when the new name or the documents themselves stand against it.
+bool MayBegin(const RenameSubject& subject, const RenamePlan& plan) {
+    if (!FitsType(plan.newPath, kTextProperty))
+        throw UsageError(
+            QStringLiteral("The new name holds a control character, which no document "
+                           "can refer to."));
+    return (plan.parent.isEmpty() || MayBeWritten(plan.parent)) &&
+           (plan.replaces || MayBeWritten(plan.oldPath)) &&
+           ValidateTarget(subject, plan.newPath, [](const QString&) {});
+}
+
 struct Search {
     int unread = 0;         // documents
     QStringList repeating;  // holders with further references
@@ -175,13 +186,7 @@ int RenameCommand::Run(const QCommandLineParser& line, Console& console) const {
                                          : subject.folder + WithExtension(words[1], document),
                           .parent = subject.ancestorChain.value(1),
                           .replaces = Replaces()};
-    if (!FitsType(plan.newPath, kTextProperty))
-        throw UsageError(
-            QStringLiteral("The new name holds a control character, which no document "
-                           "can refer to."));
-    if ((!plan.parent.isEmpty() && !MayBeWritten(plan.parent)) ||
-        (!Replaces() && !MayBeWritten(document)) ||
-        !ValidateTarget(subject, plan.newPath, [](const QString&) {}))
+    if (!MayBegin(subject, plan))
         return kExitPartly;
 
     CellList list;
