@@ -1,8 +1,10 @@
 #include "app/commandline.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 
 #include "app/commands/commandset.h"
+#include "services/paths.h"
 
 namespace docbench {
 
@@ -23,6 +25,12 @@ CommandLine Wrong(const QString& message) {
     line.does = CommandLine::Does::WrongUsage;
     line.message = message + QStringLiteral("\nTry docbench --help.\n");
     return line;
+}
+
+// What can be no document that somebody wants to see.
+bool IsMistypedCommand(const QString& word) {
+    return DocTypeOf(word) == DocType::None && !word.contains(u'/') && !IsWebPath(word) &&
+           !QFileInfo::exists(word);
 }
 
 void AddOptions(QCommandLineParser& parser) {
@@ -47,7 +55,10 @@ void AddOptions(QCommandLineParser& parser) {
 QString HelpText() {
     QCommandLineParser parser;
     AddOptions(parser);
-    QString text = parser.helpText();
+    // The toolkit names the program with its folder in the first line.
+    const QString toolkits = parser.helpText();
+    QString text = QStringLiteral("Usage: docbench [options] [FILE]\n") +
+                   toolkits.mid(toolkits.indexOf(u'\n') + 1);
     text += QStringLiteral("\nCommands (docbench COMMAND --help tells more):\n");
     for (const auto& command : AllCommands())
         text += QStringLiteral("  %1%2\n").arg(command->Name(), -16).arg(command->Summary());
@@ -72,6 +83,8 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
         return line;
     }
     const QStringList words = parser.positionalArguments();
+    if (words.size() == 1 && IsMistypedCommand(words[0]))
+        return Wrong(QStringLiteral("No file and no command is named %1.").arg(words[0]));
     if (words.size() > 1)
         return Wrong(QStringLiteral("One FILE only, and no command is named %1.").arg(words[0]));
     line.file = words.value(0);

@@ -33,7 +33,8 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_RUNTIME_OUTPUT_D
 # What is loaded while the program runs, which no linker sees: the driver of the reference index, and
 # the reader of its pictures.
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "libqt6sql6-sqlite, libqt6svg6")
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS qt6-translations-l10n)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS
+    "qt6-translations-l10n, ca-certificates, xdg-utils")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SUGGESTS "docbench-dev")
 
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME docbench-dev)

@@ -21,3 +21,9 @@ docbench_link(docbench)
 docbench_link(docmodel)
 docbench_link(docbench-samples)
 docbench_link(docbench-thumbnailer)
+
+# The guide and the manual of the commands, with their pictures.
+file(GLOB pictures ${PROJECT_SOURCE_DIR}/docs/*.png)
+install(FILES ${PROJECT_SOURCE_DIR}/docs/users-guide.md ${PROJECT_SOURCE_DIR}/docs/command-line.md
+    ${PROJECT_SOURCE_DIR}/docs/property-search.md ${PROJECT_SOURCE_DIR}/docs/container-format.md ${pictures}
+    DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)

@@ -9,6 +9,7 @@ set(CMAKE_AUTORCC ON)
 add_library(docaccess INTERFACE)
 target_include_directories(docaccess INTERFACE
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:${DOCBENCH_HEADERS}>)
+target_compile_features(docaccess INTERFACE cxx_std_20)
 target_link_libraries(docaccess INTERFACE Qt6::Core Qt6::Gui $<BUILD_INTERFACE:docbench_flags>)
 
 # The settings store, which both the program and the document library read and write.

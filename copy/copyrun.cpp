@@ -94,6 +94,7 @@ private:
         else if (!outcome.message.isEmpty())
             result_.end = End::SourceFailed;
         files_.sourceReason = outcome.reason;
+        result_.sourceReason = outcome.reason;
         return result_.end == End::Done;
     }
 

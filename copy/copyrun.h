@@ -21,7 +21,8 @@ struct CopyResult {
     int copied = 0;  // rows; the document itself does not count
     int failed = 0;
     QString message = {};
-    Cell target = {};  // colour and tool tip for the document's own target
+    QString sourceReason = {};  // why the document itself was not copied; the rows may have been
+    Cell target = {};           // colour and tool tip for the document's own target
 };
 
 // Run CheckBeforeCopy first. The rows tell how they went, by colour and tool tip. Nothing is

@@ -45,7 +45,8 @@ void SearchParents(const ParentSearch& parents, const QString& folders, RowBatch
                          .local = found.document});
     };
     ErrorState untold;  // what can't be looked through gives no rows
-    untold.Run([&] { search.Run(folders); });
+    if (!untold.Run([&] { search.Run(folders); }) && search.unsearched)
+        search.unsearched(folders, untold.Description());
 }
 
 }  // namespace docbench

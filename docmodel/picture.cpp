@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QImageReader>
 #include <QPainter>
+#include <QtEndian>
 
 namespace docmodel {
 
@@ -17,6 +18,27 @@ bool IsPossible(QSize size) {
 constexpr PictureFormat kPng = {"png", "docProps/thumbnail.png", "image/png"};
 constexpr PictureFormat kJpeg = {"jpeg", "docProps/thumbnail.jpeg", "image/jpeg"};
 constexpr PictureFormat kBmp = {"bmp", "docProps/thumbnail.bmp", "image/bmp"};
+
+// The chunks that make a picture (RFC 2083 and its successors). The others are left out: texts and
+// profiles may unpack to a thousand times their size, which the reader does before anything else.
+QByteArray WithoutExtras(const QByteArray& png) {
+    static const QByteArrayList picture{"IHDR", "PLTE", "tRNS", "gAMA", "IDAT", "IEND"};
+    constexpr qint64 kSignature = 8;
+    constexpr qint64 kFrame = 12;  // length, type and checksum of a chunk
+    QByteArray kept = png.left(kSignature);
+    qint64 at = kSignature;
+    while (at + kFrame <= png.size()) {
+        const qint64 size = kFrame + qFromBigEndian<quint32>(png.constData() + at);
+        if (picture.contains(png.mid(at + 4, 4)))
+            kept += png.mid(at, size);
+        at += size;
+    }
+    return kept;
+}
+
+QByteArray Readable(const QByteArray& bytes, const PictureFormat& format) {
+    return &format == &kPng ? WithoutExtras(bytes) : bytes;
+}
 
 QImage OnWhite(const QImage& picture) {
     if (!picture.hasAlphaChannel())
@@ -44,7 +66,7 @@ bool IsWithinBounds(const QByteArray& bytes) {
     if (!format || bytes.size() > kMaxPreviewBytes)
         return false;
     QBuffer buffer;
-    buffer.setData(bytes);
+    buffer.setData(Readable(bytes, *format));
     buffer.open(QIODevice::ReadOnly);
     return IsPossible(QImageReader(&buffer, format->name).size());
 }
@@ -54,7 +76,7 @@ QImage ReadPicture(const QByteArray& bytes) {
     if (!format)
         return {};
     QBuffer buffer;
-    buffer.setData(bytes);
+    buffer.setData(Readable(bytes, *format));
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer, format->name);
     reader.setAutoTransform(true);

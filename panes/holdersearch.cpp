@@ -24,15 +24,20 @@ public:
         : search_(search), finder_(Documents().MakeFolderSearcher()) {}
 
     void SearchFolders(const QString& folder, bool deep);
+    // Looks in the copies of a web folder's documents; `url` may be more than the folder itself.
+    void SearchWebFolder(const QString& url);
+    void Tell(const QString& folder, const QString& reason) const;
 
 private:
     QStringList Visit(const QString& folder, bool deep);
     void SearchFolder(const QString& folder);
+    void ReportProgress() const;
     void Take(const FoundReference& found);
 
     const HolderSearch& search_;
     std::unique_ptr<FolderSearcher> finder_;
     QHash<QString, QString> urls_;  // of the local copies
+    int unfetched_ = 0;             // documents of web folders that can't be had
 };
 
 void Walk::SearchFolders(const QString& folder, bool deep) {
@@ -47,12 +52,36 @@ void Walk::SearchFolders(const QString& folder, bool deep) {
     walk.Run(folder);
 }
 
+void Walk::SearchWebFolder(const QString& url) {
+    QString mirror;
+    int unfetched = 0;
+    const bool fetched = MirrorWebFolder(url, mirror, &unfetched);
+    unfetched_ += unfetched;
+    if (fetched)
+        return SearchFolders(FolderNoSeparator(mirror), false);
+    if (!gWebListing)
+        return Tell(url, gWebFolder ? gWebFolder->LastError()
+                                    : QStringLiteral("There is no way to web folders."));
+    ReportProgress();
+}
+
+void Walk::Tell(const QString& folder, const QString& reason) const {
+    if (search_.unsearched)
+        search_.unsearched(folder, reason);
+}
+
+void Walk::ReportProgress() const {
+    SearchCounts counts = finder_->GetSearchCounts();
+    counts.unread += unfetched_;
+    search_.progress(counts);
+}
+
 QStringList Walk::Visit(const QString& folder, bool deep) {
     ErrorState passedOver;
     if (search_.onFailure == HolderSearch::OnFailure::Raises)
         SearchFolder(folder);
-    else
-        passedOver.Run([&] { SearchFolder(folder); });
+    else if (!passedOver.Run([&] { SearchFolder(folder); }))
+        Tell(folder, passedOver.Description());
     QStringList below;
     for (int i = 0; deep && i < finder_->GetSubfolderCount(); ++i)
         below.append(finder_->GetSubfolder(i));
@@ -73,7 +102,7 @@ void Walk::SearchFolder(const QString& folder) {
     const int count = finder_->GetResultCount();
     for (int i = 0; i < count; ++i)
         Take(finder_->GetResult(i));
-    search_.progress(finder_->GetSearchCounts());
+    ReportProgress();
 }
 
 void Walk::Take(const FoundReference& found) {
@@ -95,14 +124,12 @@ bool HolderSearch::Run(const QString& folders) const {
     for (const QString& entry : entries) {
         if (cancelled())
             break;
-        QString mirror;
-        if (!IsWebPath(expanded)) {
-            if (QFileInfo(entry).isDir())
-                walk.SearchFolders(QDir::cleanPath(QFileInfo(entry).absoluteFilePath()),
-                                   subfolders);
-        } else if (MirrorWebFolder(mirrors == Mirrors::EachEntry ? entry : expanded, mirror)) {
-            walk.SearchFolders(FolderNoSeparator(mirror), false);
-        }
+        if (IsWebPath(expanded))
+            walk.SearchWebFolder(mirrors == Mirrors::EachEntry ? entry : expanded);
+        else if (QFileInfo(entry).isDir())
+            walk.SearchFolders(QDir::cleanPath(QFileInfo(entry).absoluteFilePath()), subfolders);
+        else
+            walk.Tell(entry, QStringLiteral("It is not there."));
     }
     return true;
 }

@@ -30,6 +30,8 @@ struct HolderSearch {
     // `relation` what the reference is by the types of the two.
     std::function<void(const FoundReference& found, const QString& holder, const QString& relation)>
         take = {};
+    // Is told of a folder that can't be searched at all. Without it that is passed over.
+    std::function<void(const QString& folder, const QString& reason)> unsearched = {};
 
     // Looks in the folders (";" between them, named lists expanded). False when there are none.
     bool Run(const QString& folders) const;

@@ -1,5 +1,7 @@
 #include "rename/renamechecks.h"
 
+#include <QFileInfo>
+
 #include "cells/celllist.h"
 #include "rename/renamelist.h"
 #include "services/dialogs.h"
@@ -85,9 +87,13 @@ bool TargetInAncestors(const RenameSubject& subject, const QString& target,
     return false;
 }
 
-bool Exists(const QString& path, QString& trouble) {
+bool IsOnDisk(const RenameSubject& subject, const QString& path) {
+    return subject.wildcards ? FileExists(path) : QFileInfo::exists(path);
+}
+
+bool Exists(const RenameSubject& subject, const QString& path, QString& trouble) {
     if (!IsWebPath(path) || !gWebFolder)
-        return FileExists(path);
+        return IsOnDisk(subject, path);
     const WebFolderClient::Presence presence = gWebFolder->Exists(path);
     if (presence == WebFolderClient::Presence::Unknown)
         trouble = gWebFolder->LastError();
@@ -96,7 +102,7 @@ bool Exists(const QString& path, QString& trouble) {
 
 bool ValidateNewName(const RenameSubject& subject, const QString& target) {
     QString trouble;
-    if (Exists(target, trouble))
+    if (Exists(subject, target, trouble))
         return Refuse(Tr(Text::TargetExists));
     if (!trouble.isEmpty())
         return Refuse(trouble);
@@ -153,7 +159,7 @@ bool ValidateTarget(const RenameSubject& subject, const QString& target,
         return Refuse(Tr(Text::TargetTypeDiffers));
     if (!subject.replaces)
         return ValidateNewName(subject, target);
-    if (IsWebPath(target) || FileExists(target))
+    if (IsWebPath(target) || IsOnDisk(subject, target))
         return true;
     return Refuse(Format(Text::TargetMissing, target));
 }

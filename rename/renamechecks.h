@@ -15,6 +15,7 @@ struct RenameSubject {
     QString folder;             // with a separator at its end
     QStringList ancestorChain;  // itself, then the documents above each of its occurrences
     bool replaces = false;
+    bool wildcards = true;  // "*" and "?" in a new name stand for others that may be there
 };
 
 // A new name without the ending of a document gets that of the old one; an empty name stays empty.

@@ -1,15 +1,16 @@
 #include "rename/renamesearch.h"
 
-#include <QSet>
+#include <QHash>
+#include <utility>
 
-#include "panes/holdersearch.h"
 #include "rename/renamelist.h"
 #include "services/language.h"
 
 namespace docbench {
 
 bool SearchHolders(const RenameSearch& search, const QString& folders, RowBatch& rows) {
-    QSet<QString> listed;  // holders with their relations
+    using Place = std::pair<int, bool>;  // index and table
+    QHash<QString, Place> listed;        // of holders with their relations
     const HolderSearch shared{
         .document = search.document,
         .kinds = search.kinds,
@@ -22,17 +23,22 @@ bool SearchHolders(const RenameSearch& search, const QString& folders, RowBatch&
                 rows.Offer();
                 search.progress(counts, rows.Count());
             },
-        .mirrors = HolderSearch::Mirrors::WholeText,
+        .mirrors = search.mirrors,
         .take =
             [&](const FoundReference& found, const QString& holder, const QString& relation) {
                 // A component is a plain reference whatever the types.
                 const QString shown = found.inContext ? relation : gRelationDefault;
                 const QString key = holder + u'\0' + shown;
-                if (listed.contains(key))
+                const Place place(found.referenceIndex, found.inContext);
+                if (const auto first = listed.constFind(key); first != listed.cend()) {
+                    if (search.repeated && *first != place)
+                        search.repeated(holder);
                     return;
-                listed.insert(key);
+                }
+                listed.insert(key, place);
                 rows.Add(HolderRow(found, holder, shown, found.document, search.parent));
-            }};
+            },
+        .unsearched = search.unsearched};
     return shared.Run(folders);
 }
 

@@ -4,6 +4,7 @@
 #include <QString>
 #include <functional>
 
+#include "panes/holdersearch.h"
 #include "panes/usekinds.h"
 #include "services/docaccess.h"
 
@@ -20,6 +21,11 @@ struct RenameSearch {
     std::function<void()> yield;      // once for each folder
     std::function<bool()> cancelled;  // asked after each yield
     std::function<void(const SearchCounts& counts, int rows)> progress;
+    HolderSearch::Mirrors mirrors = HolderSearch::Mirrors::WholeText;
+    // Is told of each further reference of a holder, which gets no row.
+    std::function<void(const QString& holder)> repeated = {};
+    // Is told of a folder that can't be searched at all. Without it that is passed over.
+    std::function<void(const QString& folder, const QString& reason)> unsearched = {};
 };
 
 // Adds a row to `rows` for each reference found in the folders (";" between them, named lists

@@ -41,7 +41,11 @@ std::optional<ParentReference> OpenParent(DocumentFile& parent, const RenamePlan
 class Transaction {
 public:
     Transaction(CellList& rows, const RenamePlan& plan, const RenameProgress& progress)
-        : rows_(rows), plan_(plan), progress_(progress), document_(Documents().MakeDocumentFile()) {
+        : rows_(rows),
+          plan_(plan),
+          progress_(progress),
+          document_(Documents().MakeDocumentFile()),
+          movedFile_(PathWithoutLinks(plan.oldPath)) {
         for (int row = 0; row < rows_.Count(); ++row) {
             const QString& holder = rows_.At(row).cells[kHolderColumn].tag;
             fileOf_.insert(holder, PathWithoutLinks(holder));
@@ -102,8 +106,20 @@ private:
             SetReference(found->table, found->index);
             document_->Save();
             RenewStamps(plan_.parent, found->table, before);
-            UploadIfWeb(plan_.parent);
+            Upload(plan_.parent);
         });
+        result_.parentProblem = errors.Description();
+    }
+
+    void Upload(const QString& path) {
+        const bool uploaded = UploadIfWeb(path);
+        result_.uploaded &= uploaded;
+    }
+
+    // A document that refers to itself has moved with its reference.
+    QString PlaceOf(const QString& holder) const {
+        const bool moved = !plan_.replaces && fileOf_.value(holder) == movedFile_;
+        return moved ? plan_.newPath : holder;
     }
 
     void SetReference(Table table, int index) {
@@ -120,7 +136,7 @@ private:
         // After a failed statement the object is bound to nothing, and those behind it would fail
         // as well: the first failure is the one to tell.
         errors.Run([&] {
-            document_->Open(LocalCopyOf(row.holder));
+            document_->Open(LocalCopyOf(PlaceOf(row.holder)));
             CheckStamp(row);
             Write(row);
         });
@@ -138,7 +154,7 @@ private:
         SetReference(TableOf(row.external), row.index);
         document_->Save();
         RenewStamps(row.holder, TableOf(row.external), row.stamp);
-        UploadIfWeb(row.holder);
+        Upload(PlaceOf(row.holder));
     }
 
     void ShowOutcome(int index, const ErrorState& errors) {
@@ -175,6 +191,7 @@ private:
     const RenamePlan& plan_;
     const RenameProgress& progress_;
     std::unique_ptr<DocumentFile> document_;
+    const QString movedFile_;            // without links; where it was
     QHash<QString, QString> fileOf_;     // by holder; two may be one file, found through a link
     QHash<QString, QList<int>> rowsOf_;  // by the holder's file
     RenameResult result_;

@@ -28,9 +28,11 @@ struct ParentReference {
 std::optional<ParentReference> FindParentReference(const RenamePlan& plan);
 
 struct RenameResult {
-    bool moved = true;  // false: nothing has changed
-    int updated = 0;
-    int failed = 0;
+    bool moved = true;           // false: nothing has changed
+    int updated = 0;             // rows, and the parent as soon as its reference was found
+    int failed = 0;              // rows
+    QString parentProblem = {};  // why the parent's reference was not written; no box tells it
+    bool uploaded = true;        // false: a box told of a document that the server did not take
 };
 
 struct RenameProgress {

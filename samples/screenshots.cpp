@@ -30,6 +30,8 @@
 #include "setup/folderlisteditor.h"
 #include "shell/previewpane.h"
 #include "shell/usercontrol1.h"
+#include "whereused/filemissingdialog.h"
+#include "whereused/searchdialog.h"
 #include "whereused/whereused.h"
 
 namespace {
@@ -183,6 +185,22 @@ QWidget* ReplaceInTargets(Stage& stage) {
     return form;
 }
 
+QWidget* ScopeOfASearch(Stage& stage) {
+    static SearchScope scope;
+    auto* form = new SearchDialog(scope, &stage.frame);
+    form->init(stage.library.path(), true, true, true, true);
+    form->show();
+    return form;
+}
+
+QWidget* MissingDocument(Stage& stage) {
+    auto* form = new FileMissingDialog(&stage.frame);
+    form->init(
+        Format(Text::SourceMissing, stage.library.filePath("cover/lost bearing cap.tfmprt")));
+    form->show();
+    return form;
+}
+
 QWidget* About(Stage& stage) {
     auto* box = new frmAbout(&stage.frame);
     box->show();
@@ -218,6 +236,8 @@ const std::vector<std::pair<QString, Scene>>& Scenes() {
         {QStringLiteral("properties-configuration"), PropertiesTab(2)},
         {QStringLiteral("copy"), CopyList},
         {QStringLiteral("copy-replace"), ReplaceInTargets},
+        {QStringLiteral("search-scope"), ScopeOfASearch},
+        {QStringLiteral("missing-document"), MissingDocument},
     };
     return scenes;
 }

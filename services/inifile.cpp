@@ -191,6 +191,8 @@ bool IniFile::Load(const QString& path) {
         return false;
 
     QByteArray content = file.read(kLargestFile);
+    if (file.error() != QFileDevice::NoError || content.size() < info.size())
+        return false;
     if (content.endsWith('\n'))
         content.chop(1);
     if (content.isEmpty())
@@ -249,7 +251,11 @@ void IniFile::Set(const QString& section, const QString& encodedName, const QStr
         return line.kind == Kind::Value && line.key == fresh.key;
     });
     if (former != lines_.rend()) {
+        // Under the name that it has there: the section may be another one, with levels in the
+        // name.
+        const QByteArray name = former->bytes.first(former->bytes.indexOf('='));
         *former = fresh;
+        former->bytes = name + fresh.bytes.sliced(fresh.bytes.indexOf('='));
         return;
     }
     qsizetype place = SectionEnd(section);

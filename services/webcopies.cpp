@@ -184,24 +184,32 @@ QHash<QString, QString> UrlsOfCopies() {
     return urls;
 }
 
-bool MirrorWebFolder(const QString& url, QString& localFolder) {
+bool MirrorWebFolder(const QString& url, QString& localFolder, int* unfetched) {
     localFolder =
         gTempFolder + QStringLiteral("/tessaformadocbench/");  // doubled: as others compare it
     if (!gWebFolder)
         return false;
     gWebListing = gWebFolder->ListFolder(url);
-    if (!gWebListing || !CreateFolderPath(localFolder) || !gWebListing->Reset())
+    if (!gWebListing || !CreateFolderPath(localFolder) || !gWebListing->Reset()) {
+        gWebListing.reset();
         return false;
+    }
     bool any = false;
+    int missed = 0;
     QString entry;
     while (gWebListing->NextEntry(entry)) {
         QString kind;
         QString local;
         if (gWebListing->GetProperty(entry, QStringLiteral("DAV:"), QStringLiteral("resourcetype"),
                                      kind) &&
-            kind == QLatin1String("File"))
-            any = GetLocalCopy(entry, local) || any;
+            kind == QLatin1String("File")) {
+            const bool fetched = GetLocalCopy(entry, local);
+            any |= fetched;
+            missed += !fetched && IsDocument(UrlFileName(entry)) ? 1 : 0;
+        }
     }
+    if (unfetched)
+        *unfetched = missed;
     return any;
 }
 

@@ -56,8 +56,9 @@ QString UrlToUpload(const QString& document, const QString& local);
 // The addresses of all local copies, by their cleaned paths: for who has many to look up.
 QHash<QString, QString> UrlsOfCopies();
 
-// Fetches all documents of a web folder. False when it can't be listed or nothing was fetched.
-bool MirrorWebFolder(const QString& url, QString& localFolder);
+// Fetches all documents of a web folder. False when it can't be listed (gWebListing is null then)
+// or nothing was fetched. Counts the documents that can't be had in `unfetched`, if there is one.
+bool MirrorWebFolder(const QString& url, QString& localFolder, int* unfetched = nullptr);
 
 // Takes the copy of an address over to the address that its document was renamed to, moving the
 // local file. False without a copy, or when the file can't be moved; all is as before then.

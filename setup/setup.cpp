@@ -1,5 +1,6 @@
 #include "setup/setup.h"
 
+#include <QPointer>
 #include <QShowEvent>
 #include <algorithm>
 
@@ -108,11 +109,13 @@ void setup::ShowLanguage() {
 }
 
 void setup::TakeLanguage() {
+    const QPointer<setup> alive(this);
     if (ChooseLanguage(ui_->cmbLanguage->currentData().toString()))
         SetStatusText(tr("The language changes when the program starts again."));
     else
         gSeams.dialogs->Box(Tr(Text::OptionNotSaved), Dialogs::Icon::Exclamation, gAppTitle);
-    ShowLanguage();
+    if (alive)
+        ShowLanguage();
 }
 
 QString setup::HelpTopic() const {

@@ -24,16 +24,15 @@ void Warn(const QString& text) {
 
 // Changes the record of an opened document as far as the user may; gives the lock state afterwards.
 bool ChangeLock(DocumentInfo& info, bool wantLocked, const QString& path) {
-    const QString user = CurrentUserName();
     if (!info.GetLocked()) {
         if (wantLocked) {
             info.SetLocked(true);
-            info.SetLockedBy(user);
+            info.SetLockedBy(CurrentUserName());
         }
         return wantLocked;
     }
     const QString lockedBy = info.GetLockedBy();
-    if (user.left(lockedBy.size()) != lockedBy) {
+    if (!IsOwnLock(lockedBy)) {
         Warn(Format(Text::LockedByOther, path, lockedBy));
         return true;
     }
@@ -45,6 +44,10 @@ bool ChangeLock(DocumentInfo& info, bool wantLocked, const QString& path) {
 }
 
 }  // namespace
+
+bool IsOwnLock(const QString& lockedBy) {
+    return CurrentUserName().startsWith(lockedBy);
+}
 
 std::optional<bool> ReadLockState(const QString& path) {
     std::optional<bool> locked;

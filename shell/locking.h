@@ -10,6 +10,9 @@ namespace docbench {
 // Whether the document at `path` is locked; none when its record can't be opened.
 std::optional<bool> ReadLockState(const QString& path);
 
+// Whether a lock of that user is the running user's own.
+bool IsOwnLock(const QString& lockedBy);
+
 // Why a document can't be written, and the same in a box; `code` is that of
 // DocumentFile::GetAccessState.
 QString AccessStateText(int code, const QString& path);

@@ -1,5 +1,7 @@
 // The program that file managers call for a document's thumbnail. It needs no display.
 
+#include <sys/resource.h>
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QTextStream>
@@ -31,6 +33,19 @@ void PrepareParser(QCommandLineParser& parser) {
     parser.addPositionalArgument(QStringLiteral("FILE"),
                                  QStringLiteral("The document: a path or a file: address."));
     parser.addPositionalArgument(QStringLiteral("PNG"), QStringLiteral("The picture to write."));
+}
+
+// File managers look at any file that somebody sends: whatever a picture is made to cost, the
+// desktop goes on.
+void LimitMyself() {
+#ifndef __SANITIZE_ADDRESS__  // which reserves terabytes
+    constexpr rlim_t kMemory = rlim_t(1) << 30;
+    const rlimit memory{kMemory, kMemory};
+    setrlimit(RLIMIT_AS, &memory);
+#endif
+    constexpr rlim_t kSeconds = 20;
+    const rlimit time{kSeconds, kSeconds};
+    setrlimit(RLIMIT_CPU, &time);
 }
 
 int WrongUsage(const QString& message) {
@@ -74,6 +89,7 @@ int Run(const QCommandLineParser& parser) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+    LimitMyself();
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("docbench-thumbnailer"));
     QCommandLineParser parser;

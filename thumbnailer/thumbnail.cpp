@@ -8,6 +8,7 @@
 #include "docmodel/picture.h"
 #include "docmodel/preview.h"
 #include "services/docaccess.h"
+#include "services/wholefile.h"
 
 namespace thumbnailer {
 
@@ -53,7 +54,7 @@ void WriteThumbnail(const QString& document, const QString& output, int size) {
     // Takes the name once it is whole, so that nobody ever reads half a picture.
     QSaveFile file(output);
     if (!file.open(QIODevice::WriteOnly) || !QImageWriter(&file, "png").write(picture) ||
-        !file.commit())
+        !docbench::CommitWhole(file))
         throw DocumentError(
             QStringLiteral("The picture %1 can't be written: %2.").arg(output, file.errorString()));
 }

@@ -22,21 +22,50 @@ const QString kNoSubfoldersOption = QStringLiteral("no-subfolders");
 const QString kKindsOption = QStringLiteral("kinds");
 const QString kOutputOption = QStringLiteral("output");
 
-// Named lists begin with a blank, addresses stay as they are, folders are taken from here.
-QString WholeFolder(const QString& folder) {
-    if (IsWebPath(folder))
-        return folder;
-    if (folder.startsWith(u' ')) {
-        if (ExpandFolderList(folder).isEmpty())
-            throw UsageError(QStringLiteral("There is no folder list \"%1\". docbench list shows "
-                                            "those that there are.")
-                                 .arg(folder.mid(1)));
-        return folder;
+QStringList FoldersOfList(const QString& word) {
+    const QString list = word.mid(1);
+    const QStringList folders = ExpandFolderList(word).split(u';', Qt::SkipEmptyParts);
+    if (folders.isEmpty())
+        throw UsageError(QStringLiteral("There is no folder list \"%1\". docbench list shows "
+                                        "those that there are.")
+                             .arg(list));
+    for (const QString& folder : folders) {
+        if (!IsAddress(folder) && !QFileInfo(folder).isDir())
+            throw DocumentError(QStringLiteral("There is no folder %1, which the folder list "
+                                               "\"%2\" has. Set the list anew.")
+                                    .arg(folder, list));
     }
-    const QFileInfo place(folder);
+    return folders;
+}
+
+// Named lists begin with a blank, addresses stay as they are, folders are taken from here.
+QStringList WholeFolders(const QString& word) {
+    if (word.startsWith(u' ') && !word.contains(u';'))
+        return FoldersOfList(word);
+    if (IsAddress(word))
+        return {word};
+    const QFileInfo place(word);
     if (!place.isDir())
-        throw UsageError(QStringLiteral("There is no folder %1.").arg(folder));
-    return place.absoluteFilePath();
+        throw UsageError(QStringLiteral("There is no folder %1.").arg(word));
+    return {place.absoluteFilePath()};
+}
+
+// One text of several folders is taken for addresses altogether, or for none.
+void RequireOneKind(const QStringList& folders) {
+    for (const QString& folder : folders) {
+        if (folder.contains(u';'))
+            throw UsageError(QStringLiteral("The folder %1 can't be searched: a \";\" in its name "
+                                            "stands between two folders.")
+                                 .arg(folder));
+        if (IsWebPath(folder) && !IsAddress(folder))
+            throw UsageError(QStringLiteral("The folder %1 can't be searched: a name with http in "
+                                            "it is taken for an address.")
+                                 .arg(folder));
+        if (IsAddress(folder) != IsAddress(folders.first()))
+            throw UsageError(QStringLiteral("%1 and %2 can't be searched at once: web folders and "
+                                            "others need a search each.")
+                                 .arg(folders.first(), folder));
+    }
 }
 
 }  // namespace
@@ -67,15 +96,25 @@ void RequireWritable(const QString& path) {
         throw DocumentError(problem);
 }
 
-void RequireUnlocked(const QString& path) {
+QString ReservationProblem(const QString& path) {
     const auto info = Documents().MakeDocumentInfo();
-    if (info->Open(LocalCopyOf(path)) && info->GetLocked())
-        throw DocumentError(
-            QStringLiteral("%1 is locked by %2: unlock it first.").arg(path, info->GetLockedBy()));
+    if (!info->Open(LocalCopyOf(path)) || !info->GetLocked())
+        return {};
+    return QStringLiteral("%1 is locked by %2: unlock it first.").arg(path, info->GetLockedBy());
+}
+
+void RequireUnlocked(const QString& path) {
+    if (const QString problem = ReservationProblem(path); !problem.isEmpty())
+        throw DocumentError(problem);
 }
 
 QString DocumentPath(const QString& word) {
     return IsWebPath(word) ? word : QFileInfo(word).absoluteFilePath();
+}
+
+bool IsAddress(const QString& folder) {
+    return folder.startsWith(QLatin1String("http:"), Qt::CaseInsensitive) ||
+           folder.startsWith(QLatin1String("https:"), Qt::CaseInsensitive);
 }
 
 QString PasswordProblem(const QStringList& words) {
@@ -125,16 +164,16 @@ bool WithSubfolders(const QCommandLineParser& line) {
 QString FoldersToSearch(const QCommandLineParser& line, const QString& otherwise) {
     QStringList folders;
     for (const QString& folder : line.values(kInOption))
-        folders.append(WholeFolder(folder));
-    if (folders.isEmpty())
-        folders.append(WholeFolder(otherwise));
-    for (const QString& folder : folders) {
-        if (folder.contains(u';'))
-            throw UsageError(QStringLiteral("The folder %1 can't be searched: a \";\" in its name "
-                                            "stands between two folders.")
-                                 .arg(folder));
-    }
+        folders += WholeFolders(folder);
+    if (!line.isSet(kInOption))
+        folders += WholeFolders(otherwise);
+    RequireOneKind(folders);
     return folders.join(u';');
+}
+
+void RaiseUnsearched(const QString& folder, const QString& reason) {
+    throw DocumentError(
+        QStringLiteral("%1 can't be searched, so nothing was done. %2").arg(folder, reason));
 }
 
 QCommandLineOption KindsOption() {

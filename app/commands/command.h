@@ -29,6 +29,8 @@ public:
     // How many words it takes.
     virtual int FewestWords() const { return 1; }
     virtual int MostWords() const { return 1; }
+    // How many of the first words name something, and so can't be empty.
+    virtual int Names() const { return MostWords(); }
 
     // Does it and gives the program's exit code. Errors may be raised; they are told, and end with
     // the code for what was done in part, or with that of their class.
@@ -58,8 +60,9 @@ std::unique_ptr<DocumentFile> OpenDocument(const QString& path);
 void RequireTables(DocumentFile& file, const QString& path);
 void RequireWritable(const QString& path);
 void RequireUnlocked(const QString& path);
-// Why a document may not be written; empty when it may.
+// Why a document may not be written, and who has reserved it; empty when it may, and is free.
 QString WritingProblem(const QString& path);
+QString ReservationProblem(const QString& path);
 
 // The whole path of a document that was named on the line; an address as it stands.
 QString DocumentPath(const QString& word);
@@ -70,12 +73,18 @@ QString PasswordProblem(const QStringList& words);
 // Text for a terminal: its paragraphs in lines of at most 80 characters; indented ones stay.
 QString Wrapped(const QString& text);
 
-// Folders to search: those of the options, else `otherwise`. Raises UsageError for one that is not
-// there.
+// True for the address of a web folder; not for a folder that has http in its name.
+bool IsAddress(const QString& folder);
+
+// Folders to search: those of the options, else `otherwise`, named lists expanded. Raises
+// UsageError for one that is not there or that can't be searched, DocumentError for a gone one of a
+// list.
 QList<QCommandLineOption> FolderOptions(const QString& otherwise);
 bool LimitsSearch(const QCommandLineParser& line);  // by one of them, or by the kinds below
 bool WithSubfolders(const QCommandLineParser& line);
 QString FoldersToSearch(const QCommandLineParser& line, const QString& otherwise);
+// For who must have seen every folder: raises DocumentError.
+[[noreturn]] void RaiseUnsearched(const QString& folder, const QString& reason);
 
 // Which kinds of use a search for the users of a document looks for. Raises UsageError.
 QCommandLineOption KindsOption();

@@ -32,6 +32,49 @@ const QString kHelpOption = QStringLiteral("help");
 const QString kJsonOption = QStringLiteral("json");
 const QString kNullOption = QStringLiteral("null");
 
+// Options whose value names something, and so can't be empty.
+const QStringList kNamingOptions{
+    QStringLiteral("in"),    QStringLiteral("output"), QStringLiteral("to"),
+    QStringLiteral("as"),    QStringLiteral("root"),   QStringLiteral("saved"),
+    QStringLiteral("kinds"), QStringLiteral("type"),   QStringLiteral("configuration")};
+// Those of which each one counts.
+const QStringList kRepeatableOptions{QStringLiteral("in"),   QStringLiteral("target"),
+                                     QStringLiteral("rule"), QStringLiteral("saved"),
+                                     QStringLiteral("set"),  QStringLiteral("delete")};
+
+QString ProblemOf(const QCommandLineOption& option, const QCommandLineParser& parser) {
+    const QString name = option.names().last();
+    const QStringList values = parser.values(name);
+    if (kNamingOptions.contains(name) && values.contains(QString()))
+        return QStringLiteral("--%1 needs a value that is not empty.").arg(name);
+    if (values.size() > 1 && !kRepeatableOptions.contains(name))
+        return QStringLiteral("--%1 may be given once.").arg(name);
+    return {};
+}
+
+// What is wrong with the words and options as such; empty when nothing is.
+QString UsageProblem(const Command& command, const QCommandLineParser& parser) {
+    const QStringList words = parser.positionalArguments();
+    if (words.size() < command.FewestWords() || words.size() > command.MostWords())
+        return QStringLiteral("The command %1 takes %2.")
+            .arg(command.Name(), command.Arguments().isEmpty() ? QStringLiteral("options alone")
+                                                               : command.Arguments());
+    if (words.mid(0, command.Names()).contains(QString()))
+        return QStringLiteral("A name can't be empty: the command %1 takes %2.")
+            .arg(command.Name(), command.Arguments());
+    if (parser.isSet(kJsonOption) && parser.isSet(kNullOption))
+        return QStringLiteral("Give --json or -0, not both.");
+    QStringList given = words;
+    for (const QCommandLineOption& option : OptionsOf(command)) {
+        if (option.valueName().isEmpty())
+            continue;
+        if (const QString problem = ProblemOf(option, parser); !problem.isEmpty())
+            return problem;
+        given += parser.values(option);
+    }
+    return PasswordProblem(given);
+}
+
 int WrongUsage(const Command& command, const QString& message) {
     QTextStream(stderr) << message << "\nTry docbench " << command.Name() << " --help.\n";
     return kExitUsage;
@@ -131,16 +174,7 @@ int RunCommand(const Command& command, const QStringList& words) {
         QTextStream(stdout) << HelpOf(command);
         return kExitDone;
     }
-    const qsizetype count = parser.positionalArguments().size();
-    if (count < command.FewestWords() || count > command.MostWords())
-        return WrongUsage(command, QStringLiteral("The command %1 takes %2.")
-                                       .arg(command.Name(), command.Arguments().isEmpty()
-                                                                ? QStringLiteral("options alone")
-                                                                : command.Arguments()));
-    QStringList given = parser.positionalArguments();
-    for (const QString& option : parser.optionNames())
-        given += parser.values(option);
-    if (const QString problem = PasswordProblem(given); !problem.isEmpty())
+    if (const QString problem = UsageProblem(command, parser); !problem.isEmpty())
         return WrongUsage(command, problem);
     return RunWithSeams(command, parser);
 }

@@ -17,6 +17,7 @@ public:
     QString Help() const override;
     QList<QCommandLineOption> Options() const override;
     int MostWords() const override { return 1'000; }
+    int Names() const override { return 1; }  // what follows are texts
     int Run(const QCommandLineParser& line, Console& console) const override;
 };
 

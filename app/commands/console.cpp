@@ -18,15 +18,6 @@ constexpr int kJsonVersion = 1;
 const QString kDryRunOption = QStringLiteral("dry-run");
 const QString kYesOption = QStringLiteral("yes");
 
-// Line breaks and other control characters would break a table's lines, or steer the terminal.
-QString OneLine(QString text) {
-    for (QChar& c : text) {
-        if (c.category() == QChar::Other_Control)
-            c = u'\ufffd';
-    }
-    return text;
-}
-
 // The columns that a text takes on a terminal, where many characters of East Asia take two.
 qsizetype WidthOf(const QString& text) {
     qsizetype width = 0;
@@ -69,6 +60,14 @@ bool IsNumberColumn(const QString& header) {
 }
 
 }  // namespace
+
+QString OneLine(QString text) {
+    for (QChar& c : text) {
+        if (c.category() == QChar::Other_Control)
+            c = u'\ufffd';
+    }
+    return text;
+}
 
 Console::Console(const QString& command, Format format)
     : command_(command),
@@ -158,8 +157,12 @@ QList<QCommandLineOption> ChangeOptions() {
              QStringLiteral("Doesn't ask. Needed where nobody can be asked.")}};
 }
 
+bool IsDryRun(const QCommandLineParser& line) {
+    return line.isSet(kDryRunOption);
+}
+
 Decision DecideAbout(const TextTable& plan, const QCommandLineParser& line, Console& console) {
-    if (line.isSet(kDryRunOption)) {
+    if (IsDryRun(line)) {
         console.PrintTable(plan);
         console.PrintJson(
             {{QStringLiteral("dryRun"), true}, {QStringLiteral("changes"), RowsAsJson(plan)}});

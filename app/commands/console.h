@@ -13,6 +13,10 @@ class QCommandLineParser;
 
 namespace docbench {
 
+// The text with a mark for each line break and other control character, which would break a table's
+// lines, or steer the terminal.
+QString OneLine(QString text);
+
 class Console {
 public:
     enum class Format { Text, Json, Null };
@@ -55,6 +59,7 @@ private:
 
 // What changes documents says first what it is going to change.
 QList<QCommandLineOption> ChangeOptions();
+bool IsDryRun(const QCommandLineParser& line);
 enum class Decision { Go, DryRun, No, NeedsYes };
 // `plan` has headers in its first row. Prints it unless the command was told --yes, and asks on a
 // terminal.

@@ -82,6 +82,7 @@ struct Lists {
     QString target;
     CellList copies;
     CellList parents;
+    QStringList targeted;  // sources with a target of their own
     QHash<QString, QString> replacedFiles;
 
     CopyPlan Plan() { return {source, target, copies, parents, replacedFiles}; }
@@ -138,13 +139,28 @@ void SetTarget(const QString& assignment, Lists& lists) {
          equals = assignment.indexOf(u'=', equals + 1)) {
         const QString source = DocumentPath(assignment.left(equals));
         const QString target = assignment.mid(equals + 1);
-        if (!target.isEmpty() &&
-            SetTarget(source, TargetNamed(target, source, lists.folder), lists.copies))
-            return;
+        if (target.isEmpty() ||
+            !SetTarget(source, TargetNamed(target, source, lists.folder), lists.copies))
+            continue;
+        if (lists.targeted.contains(source))
+            throw UsageError(QStringLiteral("--target may be given once for %1.").arg(source));
+        lists.targeted.append(source);
+        return;
     }
     throw UsageError(QStringLiteral("\"%1\" does not read like SOURCE=TARGET, with a document that "
                                     "is copied along as SOURCE.")
                          .arg(assignment));
+}
+
+// A replacement of text may have reached an extension.
+void RequireTypes(const CellList& copies) {
+    for (const CellRow& row : copies.Rows()) {
+        const CopyRow copy = ReadCopyRow(row);
+        if (DocTypeOf(copy.source) != DocTypeOf(copy.target))
+            throw UsageError(
+                QStringLiteral("%1 would be copied to %2. ").arg(copy.source, copy.target) +
+                Tr(Text::TargetOfOtherType));
+    }
 }
 
 void ListCopies(const QCommandLineParser& line, Lists& lists, Console& console) {
@@ -159,6 +175,7 @@ void ListCopies(const QCommandLineParser& line, Lists& lists, Console& console) 
         TextReplace(lists.copies).ReplaceAll(line.value(kFindOption), line.value(kReplaceOption));
     for (const QString& assignment : line.values(kTargetOption))
         SetTarget(assignment, lists);
+    RequireTypes(lists.copies);
 }
 
 // How many documents the search could not read.
@@ -167,6 +184,7 @@ int ListParents(const QCommandLineParser& line, Lists& lists, Console& console) 
     if (!line.isSet(kUsersOption))
         return 0;
     SearchCounts counts;
+    QStringList unsearched;  // a folder and why, one behind the other
     const ParentSearch parents{
         .search = {.document = lists.source,
                    .kinds = KindsToFind(line),
@@ -174,18 +192,31 @@ int ListParents(const QCommandLineParser& line, Lists& lists, Console& console) 
                    .status = [&](const QString& text) { console.ShowProgress(text); },
                    .yield = [] {},
                    .cancelled = [] { return false; },
-                   .progress = [&](const SearchCounts& now) { counts = now; }},
+                   .progress = [&](const SearchCounts& now) { counts = now; },
+                   .unsearched = [&](const QString& folder,
+                                     const QString& reason) { unsearched << folder << reason; }},
         .targetFolder = lists.folder,
         .affixes = lists.affixes};
     RowBatch rows = ParentRows(lists.parents);
     SearchParents(parents, FoldersToSearch(line, FolderOf(lists.source)), rows);
     rows.Flush();
+    if (!unsearched.isEmpty())
+        RaiseUnsearched(unsearched[0], unsearched[1]);
     return counts.unread;
 }
 
 auto CountTicked(const CellList& list) {
     return std::count_if(list.Rows().begin(), list.Rows().end(),
                          [](const CellRow& row) { return row.ticked; });
+}
+
+// Those that the search has found to be write-protected.
+void TellProtected(const CellList& parents, Console& console) {
+    for (const CellRow& row : parents.Rows()) {
+        const QString problem = row.ticked ? QString() : WritingProblem(ReadParentRow(row).parent);
+        if (!problem.isEmpty())
+            console.Warn(problem);
+    }
 }
 
 // Each parent that can't be written is taken out, with a message, until the others are good.
@@ -208,6 +239,14 @@ bool Check(Lists& lists) {
     }
 }
 
+bool Refuses(const QStringList& problems, Console& console) {
+    for (const QString& problem : problems)
+        console.Warn(problem);
+    if (!problems.isEmpty())
+        console.Warn(QStringLiteral("Nothing was copied. Choose other names."));
+    return !problems.isEmpty();
+}
+
 bool MayWriteTargets(const CopyPlan& plan, bool overwrites, Console& console) {
     if (const QString itself = CopiedOntoItself(plan); !itself.isEmpty())
         throw UsageError(QStringLiteral("%1 would be copied onto itself. Give another folder with "
@@ -221,6 +260,9 @@ bool MayWriteTargets(const CopyPlan& plan, bool overwrites, Console& console) {
                            "--target."));
         return false;
     }
+    if (Refuses(TargetsInUse(plan), console) ||
+        (overwrites && Refuses(TargetProblems(plan), console)))
+        return false;
     const QStringList existing = overwrites ? QStringList() : ExistingTargets(plan);
     for (const QString& target : existing)
         console.Warn(QStringLiteral("%1 is already there.").arg(target));
@@ -275,8 +317,10 @@ QList<QCommandLineOption> CopyCommand::Options() const {
     options += FolderOptions(QStringLiteral("the folder of FILE"));
     options.append(KindsOption());
     options.append(
-        {kOverwriteOption, QStringLiteral("Writes over what is there. Without it, a copy whose "
-                                          "name is taken stops everything before it begins.")});
+        {kOverwriteOption, QStringLiteral("Writes over what is there, unless it is reserved, "
+                                          "write-protected or copied itself. Without it, a copy "
+                                          "whose name is taken stops everything before it "
+                                          "begins.")});
     return options + ChangeOptions();
 }
 
@@ -291,14 +335,16 @@ int CopyCommand::Run(const QCommandLineParser& line, Console& console) const {
     lists.target = OwnTarget(line, lists);
     ListCopies(line, lists, console);
     const int unread = ListParents(line, lists, console);
+    TellProtected(lists.parents, console);
     const CopyPlan plan = lists.Plan();
     const bool overwrites = line.isSet(kOverwriteOption);
     if (!Check(lists) || !MayWriteTargets(plan, overwrites, console))
         return kExitPartly;
     console.WarnOfUnread(unread);
+    const bool lacking = unread > 0 || CountTicked(lists.parents) < lists.parents.Count();
     const Decision decision = DecideAbout(CopyPlanAsTable(plan), line, console);
     if (decision != Decision::Go)
-        return ExitCodeOf(decision, console);
+        return std::max(ExitCodeOf(decision, console), lacking ? kExitPartly : kExitDone);
 
     const CopyResult result = Carry(plan, overwrites, console);
     if (result.end != CopyResult::End::Done) {
@@ -310,7 +356,7 @@ int CopyCommand::Run(const QCommandLineParser& line, Console& console) const {
     console.PrintTable(outcome.table);
     console.PrintJson({{QStringLiteral("document"), plan.target},
                        {QStringLiteral("rows"), RowsAsJson(outcome.table)}});
-    return outcome.complete && unread == 0 ? kExitDone : kExitPartly;
+    return outcome.complete && !lacking ? kExitDone : kExitPartly;
 }
 
 }  // namespace docbench

@@ -9,6 +9,7 @@
 #include "copy/copypreview.h"
 #include "copy/parentlist.h"
 #include "services/docaccess.h"
+#include "services/filesystem.h"
 #include "services/paths.h"
 #include "services/webcopies.h"
 
@@ -64,6 +65,15 @@ public:
             Add(document, QStringLiteral("left out"), reason);
     }
 
+    // A document that is changed in place, which is not changed when there is a reason.
+    void AddUpdate(const Cell& cell, const QString& document) {
+        const bool isReason = !cell.toolTip.isEmpty() && cell.toolTip != cell.tag;
+        if (cell.foreColor == kColorBlue && isReason)
+            Add(document, QStringLiteral("failed"), cell.toolTip);
+        else
+            AddByColor(cell, document, QStringLiteral("updated"), {});
+    }
+
     CopyOutcomeTable Take() { return std::move(result_); }
 
 private:
@@ -96,7 +106,11 @@ TextTable CopyPlanAsTable(const CopyPlan& plan) {
 CopyOutcomeTable CopyOutcomeAsTable(const CopyPlan& plan, const CopyResult& result) {
     Outcome outcome;
     const QString copied = QStringLiteral("copied");
-    outcome.AddByColor(result.target, plan.target, copied, {});
+    const bool isMade = result.sourceReason.isEmpty();
+    if (isMade)
+        outcome.AddByColor(result.target, plan.target, copied, {});
+    else
+        outcome.Add(plan.target, QStringLiteral("failed"), result.sourceReason);
     for (const CellRow& row : plan.copies.Rows()) {
         const CopyRow copy = ReadCopyRow(row);
         const bool isLeftOut = row.cells[kCopyTarget].foreColor == kColorNormal;
@@ -111,9 +125,11 @@ CopyOutcomeTable CopyOutcomeAsTable(const CopyPlan& plan, const CopyResult& resu
             outcome.Add(parent.parent, QStringLiteral("left out"), WritingProblem(parent.parent));
         else if (parent.state == ParentState::Copy)
             outcome.AddByColor(row.cells[kParentHolder], parent.target, copied, {});
+        else if (!isMade && row.cells[kParentHolder].foreColor != kColorRed)
+            outcome.Add(parent.parent, QStringLiteral("left out"),
+                        QStringLiteral("%1 was not copied.").arg(plan.source));
         else
-            outcome.AddByColor(row.cells[kParentHolder], parent.parent, QStringLiteral("updated"),
-                               {});
+            outcome.AddUpdate(row.cells[kParentHolder], parent.parent);
     }
     return outcome.Take();
 }
@@ -149,10 +165,40 @@ QStringList SharedTargets(const CopyPlan& plan) {
 
 QString CopiedOntoItself(const CopyPlan& plan) {
     for (const PlannedCopy& file : FilesOf(plan)) {
-        if (QDir::cleanPath(file.source) == QDir::cleanPath(file.target))
+        if (PathWithoutLinks(QDir::cleanPath(file.source)) ==
+            PathWithoutLinks(QDir::cleanPath(file.target)))
             return file.source;
     }
     return {};
+}
+
+QStringList TargetsInUse(const CopyPlan& plan) {
+    const std::vector<PlannedCopy> files = FilesOf(plan);
+    QSet<QString> used;
+    for (const PlannedCopy& file : files)
+        used.insert(PathWithoutLinks(file.source));
+    for (const CellRow& row : plan.parents.Rows()) {
+        if (row.ticked)
+            used.insert(PathWithoutLinks(ReadParentRow(row).parent));
+    }
+    QStringList problems;
+    for (const PlannedCopy& file : files) {
+        if (used.contains(PathWithoutLinks(file.target)))
+            problems.append(QStringLiteral("%1 would be copied over %2, which this copy needs "
+                                           "itself.")
+                                .arg(file.source, file.target));
+    }
+    return problems;
+}
+
+QStringList TargetProblems(const CopyPlan& plan) {
+    QStringList problems;
+    for (const QString& target : ExistingTargets(plan)) {
+        const QString reserved = ReservationProblem(target);
+        problems.append(reserved.isEmpty() ? WritingProblem(target) : reserved);
+    }
+    problems.removeAll(QString());
+    return problems;
 }
 
 }  // namespace docbench

@@ -20,6 +20,10 @@ CopyOutcomeTable CopyOutcomeAsTable(const CopyPlan& plan, const CopyResult& resu
 QStringList ExistingTargets(const CopyPlan& plan);
 // The targets that several documents would be copied to, each with its documents, as sentences.
 QStringList SharedTargets(const CopyPlan& plan);
+// The targets that are documents which are copied, or changed, themselves: as sentences.
+QStringList TargetsInUse(const CopyPlan& plan);
+// Why targets that are there may not be written over: as sentences.
+QStringList TargetProblems(const CopyPlan& plan);
 // The first document that would be copied onto itself; empty when there is none.
 QString CopiedOntoItself(const CopyPlan& plan);
 

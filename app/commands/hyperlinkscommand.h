@@ -15,6 +15,7 @@ public:
     QString Help() const override;
     QList<QCommandLineOption> Options() const override;
     int MostWords() const override { return 4; }
+    int Names() const override { return 1; }  // what follows are texts
     int Run(const QCommandLineParser& line, Console& console) const override;
 };
 

@@ -46,18 +46,32 @@ int Show(const CellList& names, const QString& only, Console& console) {
     return kExitDone;
 }
 
-int Set(const QString& valueName, const QStringList& words, Console& console) {
+int Set(const QString& name, const QString& valueName, const QStringList& words, Console& console) {
     QStringList folders;
     for (const QString& word : words)
-        folders.append(QFileInfo(word).absoluteFilePath());
+        folders.append(IsAddress(word) ? word : QFileInfo(word).absoluteFilePath());
     if (folders.join(u' ').contains(u';')) {
         console.Warn(QStringLiteral("A folder of a list can't have a \";\" in its name."));
         return kExitPartly;
     }
-    if (WriteFolderList(valueName, folders.join(u';')))
-        return kExitDone;
-    console.Warn(Tr(Text::OptionNotSaved));
-    return kExitPartly;
+    if (!WriteFolderList(valueName, folders.join(u';'))) {
+        console.Warn(Tr(Text::OptionNotSaved));
+        return kExitPartly;
+    }
+    TextTable table = {{QStringLiteral("Folder"), QStringLiteral("List")}};
+    for (const QString& folder : folders)
+        table.push_back({folder, name});
+    console.PrintJson({{QStringLiteral("rows"), RowsAsJson(table)}});
+    return kExitDone;
+}
+
+int Delete(const QString& name, const QString& valueName, Console& console) {
+    if (!DeleteFolderList(valueName)) {
+        console.Warn(Format(Text::FolderListNotDeleted, name));
+        return kExitPartly;
+    }
+    console.PrintJson({{QStringLiteral("rows"), QJsonArray()}});
+    return kExitDone;
 }
 
 }  // namespace
@@ -65,7 +79,8 @@ int Set(const QString& valueName, const QStringList& words, Console& console) {
 QString ListCommand::Help() const {
     return QStringLiteral(
         "Without NAME all lists are shown, with NAME that one. With folders the list is set to "
-        "them. The searching commands take a list by its name with a blank before it.\n\n"
+        "them; an address stays as it is. The searching commands take a list by its name with a "
+        "blank before it.\n\n"
         "  docbench list Vendors /work/fasteners /work/bearings\n"
         "  docbench where-used --in ' Vendors' bolt.tfmprt\n");
 }
@@ -80,10 +95,9 @@ int ListCommand::Run(const QCommandLineParser& line, Console& console) const {
     CellList names;
     RefreshFolderList(names);
     if (line.isSet(kDeleteOption)) {
-        if (words.size() == 1 && DeleteFolderList(ValueNameOf(names, name)))
-            return kExitDone;
-        console.Warn(Format(Text::FolderListNotDeleted, name));
-        return kExitPartly;
+        if (words.size() != 1)
+            throw UsageError(QStringLiteral("--delete takes one NAME, and nothing behind it."));
+        return Delete(name, ValueNameOf(names, name), console);
     }
     if (words.size() < 2)
         return Show(names, name, console);
@@ -91,7 +105,7 @@ int ListCommand::Run(const QCommandLineParser& line, Console& console) const {
         console.Warn(Tr(Text::FolderListNameWithBlank));
         return kExitPartly;
     }
-    return Set(ValueNameOf(names, name), words.mid(1), console);
+    return Set(name, ValueNameOf(names, name), words.mid(1), console);
 }
 
 }  // namespace docbench

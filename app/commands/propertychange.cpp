@@ -60,6 +60,10 @@ void PropertyChange::Set(const QString& assignment, std::optional<PropertyType> 
             QStringLiteral("The property \"%1\" needs a value; --delete takes it away.").arg(name));
     if (HasControlCharacter(name) || !FitsType(name, kTextProperty))
         throw UsageError(QStringLiteral("\"%1\" can't be the name of a property.").arg(name));
+    if (given_.contains(name, Qt::CaseInsensitive))
+        throw UsageError(
+            QStringLiteral("--set may be given once for the property \"%1\".").arg(name));
+    given_.append(name);
     RequireUnambiguous(name);
     const int row = FindProperty(rows_, name);
     const PropertyType wanted = type.value_or(

@@ -43,6 +43,7 @@ private:
     const QStringList stored_;  // the names of all properties
     CellList rows_;
     QStringList deleted_;
+    QStringList given_;  // names that were to be set
     QStringList set_;
     QByteArray stamp_;
     QList<Change> changes_;

@@ -1,5 +1,6 @@
 #include "app/commands/referencescommand.h"
 
+#include <QFileInfo>
 #include <QJsonArray>
 
 #include "app/commands/console.h"
@@ -21,7 +22,7 @@ int ReferencesCommand::Run(const QCommandLineParser& line, Console& console) con
     const auto file = OpenDocument(document);
     const QString webFolder = IsWebPath(document) ? UrlFolder(document) : QString();
     const auto state = [](const QString& path) {
-        return IsWebPath(path) || FileExists(path) ? QString() : QStringLiteral("missing");
+        return IsWebPath(path) || QFileInfo::exists(path) ? QString() : QStringLiteral("missing");
     };
     TextTable table = {{QStringLiteral("Document"), QStringLiteral("Table"),
                         QStringLiteral("Position"), QStringLiteral("State")}};

@@ -1,10 +1,14 @@
 #include "app/commands/renamecommand.h"
 
+#include <QFileInfo>
 #include <QJsonArray>
+#include <algorithm>
 
 #include "app/commands/console.h"
+#include "app/commands/renameplanning.h"
 #include "app/exitcodes.h"
 #include "cells/celllist.h"
+#include "editors/propertyrows.h"
 #include "rename/renamechecks.h"
 #include "rename/renamelist.h"
 #include "rename/renamesearch.h"
@@ -40,52 +44,29 @@ QStringList AncestorChain(const QString& document, const QString& root) {
         QStringLiteral("%1 is not in the reference tree of %2.").arg(document, root));
 }
 
-QString NameOfTable(Table table) {
-    return table == Table::Components ? QStringLiteral("component")
-                                      : QStringLiteral("external reference");
+// False, and a message says why, when the new name or the documents themselves stand against it.
+bool MayBegin(const RenameSubject& subject, const RenamePlan& plan) {
+    if (!FitsType(plan.newPath, kTextProperty))
+        throw UsageError(
+            QStringLiteral("The new name holds a control character, which no document "
+                           "can refer to."));
+    return (plan.parent.isEmpty() || MayBeWritten(plan.parent)) &&
+           (plan.replaces || MayBeWritten(plan.oldPath)) &&
+           ValidateTarget(subject, plan.newPath, [](const QString&) {});
 }
 
-// What would be written: the move, the parent's first match, the ticked rows.
-TextTable PlanAsTable(const RenamePlan& plan, const CellList& list) {
-    TextTable table = {
-        {QStringLiteral("Document"), QStringLiteral("Change"), QStringLiteral("To")}};
-    if (!plan.replaces)
-        table.push_back({plan.oldPath, QStringLiteral("move"), plan.newPath});
-    const auto add = [&](const QString& document, Table which, int index) {
-        table.push_back({document, QStringLiteral("%1 %2").arg(NameOfTable(which)).arg(index + 1),
-                         plan.newPath});
-    };
-    if (!plan.parent.isEmpty()) {
-        if (const auto found = FindParentReference(plan))
-            add(plan.parent, found->table, found->index);
-    }
-    for (const CellRow& row : list.Rows()) {
-        if (!row.ticked)
-            continue;
-        const RenameRow holder = ReadRow(row);
-        add(holder.holder, holder.external ? Table::ExternalReferences : Table::Components,
-            holder.index);
-    }
-    return table;
-}
+struct Search {
+    int unread = 0;         // documents
+    QStringList repeating;  // holders with further references
 
-TextTable OutcomeAsTable(const CellList& list) {
-    TextTable table = {
-        {QStringLiteral("Document"), QStringLiteral("Status"), QStringLiteral("Reason")}};
-    for (const CellRow& row : list.Rows()) {
-        const Cell& holder = row.cells[kHolderColumn];
-        if (holder.foreColor == kColorBlue)
-            table.push_back({holder.tag, QStringLiteral("updated"), QString()});
-        else if (row.ticked)
-            table.push_back({holder.tag, QStringLiteral("failed"), holder.toolTip});
-        else
-            table.push_back({holder.tag, QStringLiteral("left out"), WritingProblem(holder.tag)});
-    }
-    return table;
-}
+    void Run(const QCommandLineParser& line, const RenamePlan& plan, CellList& list,
+             Console& console);
+    // Says what the plan will not show. True when something stays undone by it.
+    bool TellLacking(const QString& document, const CellList& list, Console& console) const;
+};
 
-void Search(const QCommandLineParser& line, const RenamePlan& plan, CellList& list,
-            Console& console) {
+void Search::Run(const QCommandLineParser& line, const RenamePlan& plan, CellList& list,
+                 Console& console) {
     PrepareRenameList(list);
     RowBatch rows = RenameRows(list);
     const RenameSearch search{
@@ -98,24 +79,46 @@ void Search(const QCommandLineParser& line, const RenamePlan& plan, CellList& li
         .cancelled = [] { return false; },
         .progress =
             [&](const SearchCounts& counts, int) {
-                if (counts.unread > 0)
-                    console.ShowProgress(QStringLiteral("%1 unread").arg(counts.unread));
-            }};
+                unread = counts.unread;
+                if (unread > 0)
+                    console.ShowProgress(QStringLiteral("%1 unread").arg(unread));
+            },
+        .mirrors = HolderSearch::Mirrors::EachEntry,
+        .repeated =
+            [&](const QString& holder) {
+                if (!repeating.contains(holder))
+                    repeating.append(holder);
+            },
+        .unsearched = RaiseUnsearched};
     SearchHolders(search, FoldersToSearch(line, FolderOf(plan.oldPath)), rows);
     rows.Flush();
+}
+
+// Those that the search has found to be write-protected.
+void TellProtected(const CellList& list, Console& console) {
+    for (const CellRow& row : list.Rows()) {
+        const QString problem = row.ticked ? QString() : WritingProblem(ReadRow(row).holder);
+        if (!problem.isEmpty())
+            console.Warn(problem);
+    }
+}
+
+bool Search::TellLacking(const QString& document, const CellList& list, Console& console) const {
+    console.WarnOfUnread(unread);
+    for (const QString& holder : repeating)
+        console.Warn(QStringLiteral("%1 refers to %2 more than once; only the first reference is "
+                                    "updated.")
+                         .arg(holder, document));
+    bool complete = unread == 0 && repeating.isEmpty();
+    for (const CellRow& row : list.Rows())
+        complete &= row.ticked;
+    return !complete;
 }
 
 // Each failing check takes one row out, with a message, until the others are good.
 void CheckAllHolders(CellList& list, const RenameSubject& subject, const QString& newName) {
     while (!CheckHolders(list, subject, newName, [](int) {}))
         continue;
-}
-
-int CountLeftOut(const CellList& list) {
-    int count = 0;
-    for (const CellRow& row : list.Rows())
-        count += row.ticked ? 0 : 1;
-    return count;
 }
 
 }  // namespace
@@ -136,13 +139,20 @@ QString RenameCommand::Arguments() const {
 QString RenameCommand::Help() const {
     return Replaces()
                ? QStringLiteral(
-                     "Every reference to FILE that is found in the searched folders is written "
-                     "anew to lead to REPLACEMENT, a document of the same type. No file moves.\n\n"
+                     "Each document of the searched folders that refers to FILE gets REPLACEMENT, "
+                     "a "
+                     "document of the same type, in its place. No file moves. Of several "
+                     "references "
+                     "of a document to FILE the first alone is written, and the document is "
+                     "told.\n\n"
                      "  docbench replace --dry-run old-bolt.tfmprt new-bolt.tfmprt\n")
                : QStringLiteral(
-                     "FILE gets the name NEWNAME in its own folder, and every reference to it that "
-                     "is found in the searched folders is written anew. Without an extension "
-                     "NEWNAME gets that of FILE.\n\n"
+                     "FILE gets the name NEWNAME in its own folder, and each document of the "
+                     "searched folders that refers to it is made to refer to the new name. Of "
+                     "several "
+                     "references of a document to FILE the first alone is written, and the "
+                     "document "
+                     "is told. Without an extension NEWNAME gets that of FILE.\n\n"
                      "  docbench rename --in /work/gearbox --yes bolt.tfmprt m6-bolt\n");
 }
 
@@ -161,31 +171,34 @@ int RenameCommand::Run(const QCommandLineParser& line, Console& console) const {
     const QStringList words = line.positionalArguments();
     const QString document = DocumentPath(words[0]);
     gWebDocument = IsWebPath(document);
-    if (!IsWebPath(document) && !FileExists(document))
+    if (!IsWebPath(document) && !QFileInfo::exists(document))
         throw NoDocumentError(Format(Text::DocumentNotFound, document));
     const QString root = line.value(kRootOption);
     const RenameSubject subject{
         .fullName = document,
         .folder = FolderOf(document),
         .ancestorChain = AncestorChain(document, root.isEmpty() ? root : DocumentPath(root)),
-        .replaces = Replaces()};
+        .replaces = Replaces(),
+        .wildcards = false};
     const RenamePlan plan{.oldPath = document,
                           .newPath = Replaces()
                                          ? DocumentPath(words[1])
                                          : subject.folder + WithExtension(words[1], document),
                           .parent = subject.ancestorChain.value(1),
                           .replaces = Replaces()};
-    if ((!plan.parent.isEmpty() && !MayBeWritten(plan.parent)) ||
-        (!Replaces() && !MayBeWritten(document)) ||
-        !ValidateTarget(subject, plan.newPath, [](const QString&) {}))
+    if (!MayBegin(subject, plan))
         return kExitPartly;
 
     CellList list;
-    Search(line, plan, list, console);
+    Search search;
+    search.Run(line, plan, list, console);
+    TellProtected(list, console);
     CheckAllHolders(list, subject, plan.newPath);
-    const Decision decision = DecideAbout(PlanAsTable(plan, list), line, console);
+    const bool lacking = search.TellLacking(document, list, console);
+    const FoundHolders holders{list, search.repeating, ParentApartFrom(list, plan)};
+    const Decision decision = DecideAbout(RenamePlanAsTable(plan, holders), line, console);
     if (decision != Decision::Go)
-        return ExitCodeOf(decision, console);
+        return std::max(ExitCodeOf(decision, console), lacking ? kExitPartly : kExitDone);
 
     const RenameResult result =
         RunRename(list, plan,
@@ -193,13 +206,13 @@ int RenameCommand::Run(const QCommandLineParser& line, Console& console) const {
                    .holders = [](int, int) {}});
     if (!result.moved)
         return kExitPartly;
-    const TextTable outcome = OutcomeAsTable(list);
-    console.PrintTable(outcome);
+    const RenameOutcome outcome = RenameOutcomeOf(plan, holders, result);
+    console.PrintTable(outcome.table);
     console.PrintJson({{QStringLiteral("document"), plan.newPath},
-                       {QStringLiteral("updated"), result.updated},
-                       {QStringLiteral("failed"), result.failed},
-                       {QStringLiteral("rows"), RowsAsJson(outcome)}});
-    return result.failed == 0 && CountLeftOut(list) == 0 ? kExitDone : kExitPartly;
+                       {QStringLiteral("updated"), outcome.updated},
+                       {QStringLiteral("failed"), outcome.failed},
+                       {QStringLiteral("rows"), RowsAsJson(outcome.table)}});
+    return outcome.complete && !lacking ? kExitDone : kExitPartly;
 }
 
 }  // namespace docbench

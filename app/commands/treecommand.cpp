@@ -54,14 +54,14 @@ void PrintText(const CellNodes& nodes, QTextStream& out) {
     for (int i = 1; i <= nodes.Count(); ++i) {
         const CellNode& node = nodes.At(i);
         const NodeState state = StateOf(node);
-        out << Indent(depths[size_t(i)]) << node.text.trimmed();
+        out << Indent(depths[size_t(i)]) << OneLine(node.text.trimmed());
         if (state.missing)
             out << " [missing]";
         if (state.circular)
             out << " [circular]";
         if (state.locked)
             out << " [locked]";
-        out << "  " << node.tag << '\n';
+        out << "  " << OneLine(node.tag) << '\n';
     }
 }
 

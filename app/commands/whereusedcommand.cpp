@@ -46,7 +46,8 @@ int WhereUsedCommand::Run(const QCommandLineParser& line, Console& console) cons
                     return;
                 listed.insert(key);
                 table.push_back({holder, relation, found.reference});
-            }};
+            },
+        .unsearched = RaiseUnsearched};
     search.Run(FoldersToSearch(line, FolderOf(document)));
     WriteOutput(table, line);
     console.PrintTable(table);

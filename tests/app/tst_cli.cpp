@@ -15,6 +15,7 @@ private Q_SLOTS:
     void aTranscriptPrintsWhatItSays_data();
     void aTranscriptPrintsWhatItSays();
     void theExamplesOfTheManualAreTrue();
+    void theExamplesOfTheGuideAreTrue();
 };
 
 namespace {
@@ -85,6 +86,10 @@ void TestCli::aTranscriptPrintsWhatItSays() {
 
 void TestCli::theExamplesOfTheManualAreTrue() {
     Check(QStringLiteral(DOCBENCH_MANUAL), QStringLiteral("/work/gearbox"), true);
+}
+
+void TestCli::theExamplesOfTheGuideAreTrue() {
+    Check(QStringLiteral(DOCBENCH_GUIDE), QStringLiteral("/home/ann/gearbox"), true);
 }
 
 DOCBENCH_TEST_MAIN(QCoreApplication, TestCli)

@@ -83,7 +83,6 @@ private Q_SLOTS:
         Write(folder + QStringLiteral("/CMakeLists.txt"),
               "cmake_minimum_required(VERSION 3.16)\nproject(headers LANGUAGES CXX)\n"
               "find_package(Docbench REQUIRED)\nadd_library(headers OBJECT all.cpp)\n"
-              "target_compile_features(headers PRIVATE cxx_std_20)\n"
               "target_compile_options(headers PRIVATE -fsyntax-only)\n"
               "target_link_libraries(headers PRIVATE Docbench::Controls)\n");
         const QString build = folder + QStringLiteral("/build");

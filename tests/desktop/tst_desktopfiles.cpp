@@ -109,6 +109,15 @@ private Q_SLOTS:
         QVERIFY(IsPicture(QStringLiteral("mimetypes/") + found.iconName()));
     }
 
+    void anAssemblerSourceIsNoAssembly() {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath("boot.asm");
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("; boots\n\tmov ax, 1\n") > 0);
+        file.close();
+        QCOMPARE(QMimeDatabase().mimeTypeForFile(path).name(), QStringLiteral("text/x-asm"));
+    }
+
     void thePackageOfAnotherProgramIsNotTaken() {
         QCOMPARE(QMimeDatabase().mimeTypeForData(QByteArray("PK\x03\x04", 4)).name(),
                  QStringLiteral("application/zip"));

@@ -99,23 +99,23 @@ private Q_SLOTS:
     void aPictureThatClaimsTooMuchIsNotRead() {
         // The document library refuses to store one; other programs do not.
         const QString file = Document(Png(8, 8), QStringLiteral("claims.tfmprt"));
-        const Outcome zip =
-            RunProgram(QStringLiteral("python3"),
-                       {QStringLiteral("-c"),
-                        QStringLiteral("import sys, zipfile\n"
-                                       "old = zipfile.ZipFile(sys.argv[1])\n"
-                                       "parts = {name: old.read(name) for name in old.namelist()}\n"
-                                       "with zipfile.ZipFile(sys.argv[1], 'w') as new:\n"
-                                       "    for name, data in parts.items():\n"
-                                       "        if name.endswith('.png'):\n"
-                                       "            data = bytes.fromhex(sys.argv[2])\n"
-                                       "        new.writestr(name, data)\n"),
-                        file, QString::fromLatin1(ClaimingPng(200000, 200000).toHex())});
-        QVERIFY2(zip.code == 0, qPrintable(zip.err));
+        ReplacePicture(file, QStringLiteral("bytes.fromhex('%1')")
+                                 .arg(QString::fromLatin1(ClaimingPng(200000, 200000).toHex())));
         const Outcome run = Make({file, Output()});
         QCOMPARE(run.code, 1);
         QVERIFY(run.err.contains(QLatin1String("too large")));
         QVERIFY(FolderIsEmpty());
+    }
+
+    // Texts of a few kilobytes that unpack to gigabytes, beside a picture of eight pixels.
+    void whatIsNoPictureInItIsNotUnpacked() {
+        const QString file = Document(Png(8, 8), QStringLiteral("texts.tfmprt"));
+        ReplacePicture(file, QStringLiteral("data[:33] + b''.join(chunk(b'zTXt', b'k%d\\0\\0' % i "
+                                            "+ zlib.compress(bytes(7_900_000)))"
+                                            " for i in range(200)) + data[33:]"));
+        const Outcome run = Make({file, Output()});
+        QVERIFY2(run.code == 0, qPrintable(run.err));
+        QCOMPARE(QImage(Output(), "png").size(), QSize(8, 8));
     }
 
     void aFailureLeavesTheFormerPicture() {
@@ -151,6 +151,24 @@ private Q_SLOTS:
     void init() { folder_ = std::make_unique<QTemporaryDir>(); }
 
 private:
+    // `picture` is a Python expression for the new bytes; `data` are the old ones.
+    static void ReplacePicture(const QString& file, const QString& picture) {
+        const QString script = QStringLiteral(
+            "import struct, sys, zipfile, zlib\n"
+            "def chunk(kind, data):\n"
+            "    return (struct.pack('>I', len(data)) + kind + data +\n"
+            "            struct.pack('>I', zlib.crc32(kind + data)))\n"
+            "old = zipfile.ZipFile(sys.argv[1])\n"
+            "parts = {name: old.read(name) for name in old.namelist()}\n"
+            "with zipfile.ZipFile(sys.argv[1], 'w', zipfile.ZIP_DEFLATED) as new:\n"
+            "    for name, data in parts.items():\n"
+            "        if name.endswith('.png'):\n"
+            "            data = eval(sys.argv[2])\n"
+            "        new.writestr(name, data)\n");
+        const Outcome zip =
+            RunProgram(QStringLiteral("python3"), {QStringLiteral("-c"), script, file, picture});
+        QVERIFY2(zip.code == 0, qPrintable(zip.err));
+    }
     QString Output() const { return folder_->filePath(QStringLiteral("out.png")); }
     bool FolderIsEmpty() const {
         return QDir(folder_->path())

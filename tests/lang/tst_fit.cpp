@@ -121,6 +121,9 @@ void TestFit::noCaptionOfThePanesIsCutOff() {
     bench.frame->SetCurrentFunction(pane);
     QCoreApplication::processEvents();
     QCOMPARE(bench.frame->size(), kUsualSize);
+    // Its own pane, and not the label that stands where there is none.
+    for (const QLabel* label : bench.frame->findChildren<QLabel*>(QStringLiteral("Label1")))
+        QVERIFY(!label->isVisible() || label->text() != Tr(Text::ChooseFunction));
     QCOMPARE(CutOff(*bench.frame, bench.library).join(u'\n'), QString());
 }
 

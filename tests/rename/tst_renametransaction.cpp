@@ -233,9 +233,23 @@ private Q_SLOTS:
             QCOMPARE(boxes.boxes.size(), red);  // the parent's own failure is not told
             // The parent counts as soon as its reference is found, whether it can be saved or not.
             const int parent = result.updated - (kHolders - red);
+            QVERIFY(red == 1 || !result.parentProblem.isEmpty());
+            QVERIFY(failed == project.holders[0] || result.parentProblem.isEmpty());
             QVERIFY(red == 1 ? parent == 1 : parent == 0 || parent == 1);
             QVERIFY(red == 1 || failed == project.holders[0]);
         }
+    }
+
+    void aDocumentThatRefersToItselfIsWrittenUnderItsNewName() {
+        const CollectingDialogs dialogs;
+        Project project;
+        project.library.Make("pin.tfmprt", {{project.pin}});
+        project.SearchAgain();
+        const RenameResult result = project.Run();
+        QCOMPARE(result.failed, 0);
+        const auto file = Project::Documents()->MakeDocumentFile();
+        file->Open(project.Plan().newPath);
+        QCOMPARE(file->GetComponent(0, {}).path, project.Plan().newPath);
     }
 
     void aMoveThatFailsChangesNothing() {

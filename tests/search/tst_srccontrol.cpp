@@ -11,32 +11,15 @@
 #include "panes/listmenu.h"
 #include "services/scratch.h"
 #include "services/settingsstore.h"
-#include "services/spreadsheet.h"
 #include "tests/search/searchbench.h"
 #include "tests/shell/shellbench.h"
 #include "tests/support/fakeoutside.h"
+#include "tests/support/fakespreadsheet.h"
 #include "tests/support/testenvironment.h"
 
 using namespace docbench;
 
 namespace {
-
-class FakeSpreadsheet : public Spreadsheet {
-public:
-    FakeSpreadsheet() { gSeams.spreadsheet = this; }
-    ~FakeSpreadsheet() override { gSeams.spreadsheet = nullptr; }
-    QString Show(const TextTable& table) override {
-        if (shows)
-            shows();
-        if (fails)
-            throw DocumentError("no room");
-        shown = table;
-        return "/docs/list.xlsx";
-    }
-    TextTable shown;
-    bool fails = false;
-    std::function<void()> shows;  // meanwhile
-};
 
 bool ShowsWaitPointer() {
     return QGuiApplication::overrideCursor() != nullptr;
@@ -337,7 +320,7 @@ private Q_SLOTS:
         bench.File("a.prt");
         bench.Search();
         FakeSpreadsheet spreadsheet;
-        spreadsheet.shows = [&] { bench.pane.reset(); };
+        spreadsheet.meanwhile = [&] { bench.pane.reset(); };
         QAction* mnexport = bench.pane->findChild<QAction*>("mnexport");
         QVERIFY(mnexport);
         QMetaObject::invokeMethod(mnexport, "trigger");

@@ -6,6 +6,7 @@
 #include <QTest>
 #include <memory>
 
+#include "services/inifile.h"
 #include "services/settingsstore.h"
 #include "tests/support/smallfiles.h"
 #include "tests/support/testenvironment.h"
@@ -206,6 +207,28 @@ private Q_SLOTS:
         QCOMPARE(key->Text(QString::fromUtf8(" Ä TDB-Key")), std::optional(folders));
         QCOMPARE(key->Number("Show Description"), std::optional<quint32>(1));
         QCOMPARE(key->Text("at"), std::optional(QString("@x")));
+    }
+
+    // It stands in another section, with the levels of the key in its name.
+    void WhatQSettingsWroteIsChangedInItsPlace() {
+        {
+            QSettings settings(UserFile(), QSettings::IniFormat);
+            settings.beginGroup("Software/Tessaforma/Tessaforma 2004/ExtReferences");
+            settings.setValue("Vendors TDB-Key", "/a;/b");
+            settings.setValue("Other", "/x");
+        }
+        QVERIFY(OpenUser()->SetText("Vendors TDB-Key", "/a;/b;/c"));
+        QCOMPARE(OpenUser()->Text("Vendors TDB-Key"), std::optional(QString("/a;/b;/c")));
+        QCOMPARE(OpenUser()->Text("Other"), std::optional(QString("/x")));
+        QSettings settings(UserFile(), QSettings::IniFormat);
+        settings.beginGroup("Software/Tessaforma/Tessaforma 2004/ExtReferences");
+        QCOMPARE(settings.value("Vendors TDB-Key").toString(), QString("/a;/b;/c"));
+        QVERIFY(OpenUser()->Delete("Vendors TDB-Key"));
+        QVERIFY(!OpenUser()->Text("Vendors TDB-Key"));
+    }
+
+    void AFileWhoseReadFailsIsNoEmptyOne() {
+        QVERIFY(!docbench::IniFile().Load("/proc/self/mem"));  // opens, and can't be read at its begin
     }
 
     void ARefusedWriteLeavesNoTrace() {

@@ -261,7 +261,9 @@ private Q_SLOTS:
         web.server.folders = {"http://s/w/", "http://s/w/sub/"};
         web.server.files = {{kPin, "one"}, {"http://s/w/notes.txt", "x"}, {kOtherPin, "far"}};
         QString folder;
-        QVERIFY(MirrorWebFolder("http://s/w/", folder));
+        int unfetched = 0;
+        QVERIFY(MirrorWebFolder("http://s/w/", folder, &unfetched));
+        QCOMPARE(unfetched, 0);
         QCOMPARE(folder, gTempFolder + "/tessaformadocbench/");
         QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList("pin.tfmprt"));
     }
@@ -284,7 +286,9 @@ private Q_SLOTS:
         PinsWeb web;
         web.client->missing = PinsClient::Pin(missing);
         QString folder;
-        QVERIFY(MirrorWebFolder("http://s/p/", folder));
+        int unfetched = 0;
+        QVERIFY(MirrorWebFolder("http://s/p/", folder, &unfetched));
+        QCOMPARE(unfetched, 1);
         QCOMPARE(PinsWeb::Mirrored(folder).size(), 2);
         QVERIFY(!gWebCopies.contains(web.client->missing));
     }

@@ -1,108 +1,13 @@
 // The where-used pane, through its widgets.
 
-#include <QAction>
-#include <QCheckBox>
-#include <QDir>
-#include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListView>
-#include <QMimeData>
-#include <QPushButton>
-#include <QTest>
-#include <memory>
-
-#include "panes/celllistview.h"
-#include "panes/listmenu.h"
-#include "services/language.h"
-#include "services/scratch.h"
-#include "services/settingsstore.h"
-#include "services/spreadsheet.h"
-#include "services/texts.h"
-#include "services/webdocument.h"
-#include "tests/shell/shellbench.h"
-#include "tests/support/fakefinder.h"
-#include "tests/support/fakeoutside.h"
-#include "tests/support/fakewebclient.h"
-#include "tests/support/testdialogs.h"
 #include "tests/support/testenvironment.h"
-#include "tests/support/testlibrary.h"
-#include "whereused/whereused.h"
+#include "tests/whereused/whereusedbench.h"
 
 using namespace docbench;
 
 namespace {
 
-class FakeSpreadsheet : public Spreadsheet {
-public:
-    FakeSpreadsheet() { gSeams.spreadsheet = this; }
-    ~FakeSpreadsheet() override { gSeams.spreadsheet = nullptr; }
-    QString Show(const TextTable& table) override {
-        if (fails)
-            throw DocumentError("no room");
-        shown = table;
-        return "/docs/list.xlsx";
-    }
-    TextTable shown;
-    bool fails = false;
-};
-
-// The pane on screen over folders that a test fills.
-struct Bench {
-    Bench() {
-        LoadResources();
-        PrepareScratch();
-        pane = std::make_unique<whereUsed>();
-        pane->SetStatusBarControl(&status);
-        pane->resize(760, 520);
-        pane->show();
-        pane->activateWindow();
-        if (!QTest::qWaitForWindowActive(pane.get()))
-            qFatal("no active window");
-        root = library.Folder();
-    }
-    template <typename T = QWidget>
-    T* Child(const char* name) {
-        T* child = pane->findChild<T*>(QLatin1String(name));
-        if (!child)
-            qFatal("no %s", name);
-        return child;
-    }
-    QLineEdit* Name() { return Child<QLineEdit>("wuName"); }
-    QLineEdit* LookIn() { return Child<QLineEdit>("wuLookin"); }
-    QPushButton* Find() { return Child<QPushButton>("wuFindNow"); }
-    QPushButton* Stop() { return Child<QPushButton>("wuStop"); }
-    CellListView* List() { return Child<CellListView>("whereList"); }
-    QListView* Drop() { return Child<QListView>("List1"); }
-    QCheckBox* Box(const char* name) { return Child<QCheckBox>(name); }
-    const CellRow& Row(int row) { return List()->List().At(row); }
-    void Add(const QString& folder, const QString& document, const QString& reference,
-             bool inContext = false) {
-        access.folders.rows[folder].append({.referenceIndex = 0,
-                                            .inContext = inContext,
-                                            .reference = reference,
-                                            .document = document,
-                                            .stamp = {}});
-    }
-    void Search(const QString& name = "gear") {
-        Name()->setText(name);
-        if (LookIn()->text().isEmpty())
-            LookIn()->setText(root);
-        QTest::mouseClick(Find(), Qt::LeftButton);
-    }
-    QString Sub(const QString& name) {
-        const QString folder = root + '/' + name;
-        QDir().mkpath(folder);
-        return folder;
-    }
-
-    TestLibrary library;
-    FakeFinderAccess access;
-    TestDialogs dialogs;
-    FakeStatusLine status;
-    std::unique_ptr<whereUsed> pane;
-    QString root;
-};
+using Bench = WhereUsedBench;
 
 }  // namespace
 
@@ -122,26 +27,6 @@ private Q_SLOTS:
     void answersInContextAreListedAgain();
     void unwantedKindsAreDropped();
     void clearingTheLastKindTicksAnother();
-    void theWalkGoesDepthFirst();
-    void withoutTheTickSubfoldersAreLeftOut();
-    void foldersThatAreNotThereAreSkipped();
-    void foldersThatDifferInCaseAreBothSearched();
-    void anEntryThatNamesAFileEndsTheSearch();
-    void aFailureKeepsTheRowsAndTheStatus();
-    void stoppingKeepsTheRowsAndCountsThem();
-    void inputIsDisabledWhileASearchRuns();
-    void aNewDocumentStopsTheSearch();
-    void thePaneMayGoAwayBehindADialog_data();
-    void thePaneMayGoAwayBehindADialog();
-    void aPaneThatEndsTestsNoFolders();
-    void theProgressIsShownMeanwhile();
-    void thePaneMayGoAwayDuringASearch();
-    void thePaneMayGoAwayDuringASearchByKey();
-    void aSearchByKeyTestsItsFoldersFirst();
-    void noSecondSearchBeginsDuringTheFirst();
-    void withoutANameThereIsNothingToFindAfterASearch();
-    void aWebFolderIsMirroredAndItsAddressesListed();
-    void aWebFolderThatFailsFindsNothing();
     void headersToggleShortAndLongForm();
     void rowsFollowTheFormOfTheirColumn();
     void leavingTheFieldTestsTheFolders();
@@ -153,9 +38,7 @@ private Q_SLOTS:
     void theMenuOpensByTagAndADoubleClickByText();
     void theListIsExported();
     void aFailedExportIsTold();
-    void theProgressCountsWhatCouldNotBeRead();
     void findNowRunsOnlyWhenEnabled();
-    void theRealLibraryFindsTheHolders();
 };
 
 void TestWhereUsed::aNewPaneIsIdle() {
@@ -296,286 +179,6 @@ void TestWhereUsed::clearingTheLastKindTicksAnother() {
     QCOMPARE(ticked(), QString("010"));
     bench.Box("wuFindInCtx")->click();
     QCOMPARE(ticked(), QString("100"));
-}
-
-void TestWhereUsed::theWalkGoesDepthFirst() {
-    Bench bench;
-    const QString a = bench.root + "/a";
-    bench.access.folders.subfolders = {{bench.root, {bench.root + "/b", a}},
-                                       {a, {a + "/deep"}},
-                                       {bench.root + "/b", {bench.root + "/b/x"}}};
-    bench.Search();
-    QStringList order;
-    for (const ReferenceQuery& query : bench.access.folders.queries)
-        order.append(query.pattern.mid(bench.root.size()));
-    QCOMPARE(order, QStringList({"/*.*", "/b/*.*", "/b/x/*.*", "/a/*.*", "/a/deep/*.*"}));
-}
-
-void TestWhereUsed::withoutTheTickSubfoldersAreLeftOut() {
-    Bench bench;
-    bench.access.folders.subfolders = {{bench.root, {bench.root + "/b"}}};
-    bench.Box("wuSubfloder")->click();
-    bench.Search();
-    QCOMPARE(bench.access.folders.queries.size(), 1);
-}
-
-void TestWhereUsed::foldersThatAreNotThereAreSkipped() {
-    Bench bench;
-    bench.LookIn()->setText("/nowhere;" + bench.root);
-    bench.Search();
-    QCOMPARE(bench.access.folders.queries.size(), 1);
-    QCOMPARE(bench.access.folders.queries[0].pattern, bench.root + "/*.*");
-}
-
-void TestWhereUsed::foldersThatDifferInCaseAreBothSearched() {
-    Bench bench;
-    bench.LookIn()->setText(bench.Sub("parts") + ';' + bench.Sub("PARTS") + ';' +
-                            bench.Sub("parts"));
-    bench.Search();
-    QCOMPARE(bench.access.folders.queries.size(), 2);
-}
-
-void TestWhereUsed::anEntryThatNamesAFileEndsTheSearch() {
-    Bench bench;
-    const QString file = bench.library.Make("pin.tfmprt");
-    bench.Add(bench.root, "/w/top.tfmasm", "/w/gear.tfmprt");
-    bench.LookIn()->setText(bench.root + ';' + file);
-    bench.dialogs.Expect(Format(Text::SearchError, file) + "*");
-    bench.Search();
-    QVERIFY(bench.dialogs.AllCame());
-    QCOMPARE(bench.dialogs.LastTitle(), gAppTitle);
-    QCOMPARE(bench.List()->List().Count(), 1);
-    QVERIFY(bench.Find()->isEnabled() && !bench.Stop()->isEnabled());
-}
-
-void TestWhereUsed::aFailureKeepsTheRowsAndTheStatus() {
-    Bench bench;
-    const QString sub = bench.root + "/sub";
-    bench.Add(bench.root, "/w/top.tfmasm", "/w/gear.tfmprt");
-    bench.access.folders.subfolders = {{bench.root, {sub}}};
-    bench.access.folders.onSearch = [&](const QString& folder) {
-        if (folder == sub)
-            throw DocumentError("gone");
-    };
-    bench.dialogs.Expect(Format(Text::SearchError, "gone"));
-    bench.Search();
-    QVERIFY(bench.dialogs.AllCame());
-    QCOMPARE(bench.List()->List().Count(), 1);
-    QCOMPARE(bench.status.caption, sub);
-    QVERIFY(bench.Name()->isEnabled());
-}
-
-void TestWhereUsed::stoppingKeepsTheRowsAndCountsThem() {
-    Bench bench;
-    bench.Add(bench.root, "/w/top.tfmasm", "/w/gear.tfmprt");
-    bench.access.folders.subfolders = {{bench.root, {bench.root + "/a", bench.root + "/b"}}};
-    bench.access.folders.onSearch = [&](const QString&) {
-        QTest::mouseClick(bench.Stop(), Qt::LeftButton);
-        QVERIFY(!bench.Stop()->isEnabled());
-    };
-    bench.LookIn()->setText(bench.root + ';' + bench.Sub("other"));
-    bench.Search();
-    QCOMPARE(bench.access.folders.queries.size(), 1);
-    QCOMPARE(bench.List()->List().Count(), 1);
-    QCOMPARE(bench.status.caption, Format(Text::DocumentsFound, "1"));
-    QVERIFY(bench.Find()->isEnabled());
-    bench.access.folders.onSearch = nullptr;
-    bench.Search();  // the stop does not outlive the search
-    QVERIFY(bench.access.folders.queries.size() > 3);
-}
-
-void TestWhereUsed::inputIsDisabledWhileASearchRuns() {
-    Bench bench;
-    bench.access.folders.onSearch = [&](const QString&) {
-        for (const char* name :
-             {"wuLookin", "wuName", "wuFindNow", "wuBrowse", "wuDrop1", "wuLBlookin", "wuLBName",
-              "wuSubfloder", "wuFindRef", "wuFindInCtx", "wuNewsearch", "wifindMirrored"})
-            QVERIFY2(!bench.Child(name)->isEnabled(), name);
-        QVERIFY(bench.Stop()->isEnabled());
-        QVERIFY(!bench.Child("Animation1")->isHidden());
-        QCOMPARE(bench.status.caption, bench.root);
-    };
-    bench.Search();
-    QCOMPARE(bench.access.folders.queries.size(), 1);
-    QVERIFY(bench.Child("Animation1")->isHidden());
-}
-
-void TestWhereUsed::aNewDocumentStopsTheSearch() {
-    Bench bench;
-    bench.access.folders.subfolders = {{bench.root, {bench.root + "/a"}}};
-    bench.access.folders.onSearch = [&](const QString&) {
-        bench.pane->SetPartNameToSearch("/x/pin.tfmprt", "pin");
-    };
-    bench.Search();
-    QCOMPARE(bench.access.folders.queries.size(), 1);
-}
-
-void TestWhereUsed::noSecondSearchBeginsDuringTheFirst() {
-    Bench bench;
-    bench.access.folders.subfolders = {{bench.root, {bench.root + "/a"}}};
-    bench.access.folders.onSearch = [&](const QString&) {
-        bench.pane->SetPartNameToSearch("/x/pin.tfmprt", "pin");
-        QVERIFY(!bench.Find()->isEnabled());
-        bench.pane->Findnow();
-    };
-    bench.Search();
-    QCOMPARE(bench.access.folders.queries.size(), 1);
-    QVERIFY(bench.Find()->isEnabled());
-}
-
-void TestWhereUsed::withoutANameThereIsNothingToFindAfterASearch() {
-    Bench bench;
-    bench.access.folders.onSearch = [&](const QString&) {
-        bench.pane->SetPartNameToSearch("", "");
-    };
-    bench.Search();
-    QVERIFY(bench.Name()->text().isEmpty());
-    QVERIFY(!bench.Find()->isEnabled());
-}
-
-void TestWhereUsed::aSearchByKeyTestsItsFoldersFirst() {
-    Bench bench;
-    bench.Name()->setText("gear");
-    bench.LookIn()->setFocus();
-    bench.LookIn()->setText("/nowhere");
-    bench.dialogs.Expect(Format(Text::FoldersNotFound, "/nowhere"));
-    QTest::keyClick(bench.LookIn(), Qt::Key_Return);
-    QCoreApplication::processEvents();
-    QVERIFY(bench.dialogs.AllCame());
-    QVERIFY(bench.access.folders.queries.isEmpty());
-    QVERIFY(bench.Name()->isEnabled() && bench.LookIn()->isEnabled());
-    QVERIFY(!bench.Stop()->isEnabled());
-    bench.LookIn()->setFocus();
-    bench.LookIn()->setText(bench.root);
-    QTest::keyClick(bench.LookIn(), Qt::Key_Return);
-    QTRY_COMPARE(bench.access.folders.queries.size(), 1);
-}
-
-void TestWhereUsed::thePaneMayGoAwayDuringASearchByKey() {
-    Bench bench;
-    bench.access.folders.subfolders = {{bench.root, {bench.root + "/a"}}};
-    bench.access.folders.onSearch = [&](const QString&) {
-        bench.pane->ReleaseAll();
-        QMetaObject::invokeMethod(
-            qApp, [&] { bench.pane.reset(); }, Qt::QueuedConnection);
-    };
-    bench.LookIn()->setText(bench.root);
-    bench.Name()->setText("gear");
-    QTest::keyClick(bench.Name(), Qt::Key_Return);
-    QTRY_VERIFY(!bench.pane);
-    QCOMPARE(bench.access.folders.queries.size(), 1);
-}
-
-void TestWhereUsed::thePaneMayGoAwayBehindADialog_data() {
-    QTest::addColumn<QString>("which");
-    for (const char* which : {"leaving the field", "return in the field", "browsing",
-                              "a search that fails", "an export that fails"})
-        QTest::newRow(which) << which;
-}
-
-void TestWhereUsed::thePaneMayGoAwayBehindADialog() {
-    QFETCH(QString, which);
-    Bench bench;
-    bench.dialogs.Meanwhile([&] { bench.pane.reset(); });
-    bench.Name()->setText("gear");
-    if (which == "browsing") {
-        bench.dialogs.ExpectBrowseFolder(bench.root);
-        QMetaObject::invokeMethod(bench.Child<QPushButton>("wuBrowse"), "click");
-    } else if (which == "an export that fails") {
-        FakeSpreadsheet spreadsheet;
-        spreadsheet.fails = true;
-        bench.Add(bench.root, bench.root + "/a.tfmasm", bench.root + "/gear.tfmprt");
-        bench.LookIn()->setText(bench.root);
-        bench.pane->Findnow();
-        bench.dialogs.Expect("*", Dialogs::Icon::None);
-        QMetaObject::invokeMethod(bench.pane->findChild<QAction*>("mnexport"), "trigger");
-    } else if (which == "a search that fails") {
-        bench.LookIn()->setText(bench.library.Make("pin.tfmprt"));
-        bench.dialogs.Expect("*");
-        bench.pane->Findnow();
-    } else {
-        bench.LookIn()->setFocus();
-        bench.LookIn()->setText("/nowhere");
-        bench.dialogs.Expect(Format(Text::FoldersNotFound, "/nowhere"));
-        QLineEdit* field = bench.LookIn();
-        if (which == "leaving the field")
-            bench.Name()->setFocus();
-        else
-            QTest::keyClick(field, Qt::Key_Return);
-        QCoreApplication::processEvents();
-    }
-    QVERIFY(!bench.pane);
-    QVERIFY(bench.dialogs.AllCame());
-}
-
-// Its end is no leaving of the field: nobody is asked anything.
-void TestWhereUsed::aPaneThatEndsTestsNoFolders() {
-    Bench bench;
-    bench.LookIn()->setFocus();
-    bench.LookIn()->setText("/nowhere");
-    bench.pane.reset();
-}
-
-void TestWhereUsed::theProgressIsShownMeanwhile() {
-    Bench bench;
-    bench.access.folders.subfolders = {{bench.root, {bench.root + "/a"}}};
-    bench.Add(bench.root, bench.root + "/a.tfmasm", bench.root + "/gear.tfmprt");
-    QString progress;
-    bench.access.folders.onSearch = [&](const QString& folder) {
-        if (folder.endsWith("/a"))
-            progress = bench.Child<QLabel>("wuProgress")->text();
-    };
-    bench.Name()->setText("gear");
-    bench.LookIn()->setText(bench.root);
-    bench.pane->Findnow();
-    QVERIFY2(progress.contains(Format(Text::DocumentsLookedAt, 1)), qPrintable(progress));
-    QVERIFY2(progress.contains(Format(Text::HoldersFound, 1)), qPrintable(progress));
-}
-
-void TestWhereUsed::thePaneMayGoAwayDuringASearch() {
-    Bench bench;
-    bench.access.folders.subfolders = {{bench.root, {bench.root + "/a"}}};
-    bench.access.folders.onSearch = [&](const QString&) {
-        bench.pane->ReleaseAll();
-        QMetaObject::invokeMethod(
-            qApp, [&] { bench.pane.reset(); }, Qt::QueuedConnection);
-    };
-    bench.Name()->setText("gear");
-    bench.LookIn()->setText(bench.root);
-    bench.pane->Findnow();
-    QVERIFY(!bench.pane);
-    QCOMPARE(bench.access.folders.queries.size(), 1);
-}
-
-void TestWhereUsed::aWebFolderIsMirroredAndItsAddressesListed() {
-    Bench bench;
-    FakeWeb web;
-    web.server.folders = {"http://s/w/"};
-    web.server.files = {{"http://s/w/top.tfmasm", "x"}};
-    const QString mirror = QDir::cleanPath(gTempFolder + "tessaformadocbench");
-    bench.Add(mirror, mirror + "/top.tfmasm", mirror + "/gear.tfmprt");
-    bench.Add(mirror, mirror + "/top.tfmasm", mirror + "/gear.tfmprt");
-    bench.Add(mirror, mirror + "/derived.tfmprt", mirror + "/gear.tfmprt", true);
-    bench.LookIn()->setText("http://s/w/");
-    bench.Box("wifindMirrored")
-        ->click();  // a prefixed relation is of no kind that could be left out
-    bench.Search();
-    QVERIFY(gWebDocument);
-    QCOMPARE(bench.List()->List().Count(), 3);  // a prefixed relation equals none that is listed
-    QCOMPARE(bench.Row(2).cells[1].text, gRelationPart);
-    QCOMPARE(bench.Row(0).tag, QString("http://s/w/top.tfmasm"));
-    QCOMPARE(bench.Row(0).cells[1].text, gRelationDefault);
-    QCOMPARE(bench.Row(0).cells[2].tag, QString("http://s/w/gear.tfmprt"));
-}
-
-void TestWhereUsed::aWebFolderThatFailsFindsNothing() {
-    Bench bench;
-    const FakeWeb web;
-    bench.LookIn()->setText("http://s/w/");
-    bench.Search();
-    QVERIFY(!gWebDocument);
-    QVERIFY(bench.access.folders.queries.isEmpty());
-    QCOMPARE(bench.status.caption, Format(Text::DocumentsFound, "0"));
 }
 
 void TestWhereUsed::headersToggleShortAndLongForm() {
@@ -757,40 +360,11 @@ void TestWhereUsed::aFailedExportIsTold() {
     QCOMPARE(bench.status.caption, gStrings[42]);
 }
 
-void TestWhereUsed::theProgressCountsWhatCouldNotBeRead() {
-    Bench bench;
-    bench.access.folders.unread = 3;
-    bench.Search();
-    const QString shown = bench.Child<QLabel>("wuProgress")->text();
-    QVERIFY(shown.contains(Format(Text::DocumentsLookedAt, "1")));
-    QVERIFY(shown.contains(Format(Text::FilesNotRead, "3")));
-}
-
 void TestWhereUsed::findNowRunsOnlyWhenEnabled() {
     Bench bench;
     bench.pane->Findnow();
     QVERIFY(bench.access.folders.queries.isEmpty());
     QVERIFY(bench.Name()->isEnabled());
-}
-
-void TestWhereUsed::theRealLibraryFindsTheHolders() {
-    TestLibrary library;
-    const TestDialogs dialogs;
-    const QString gear = library.Make("parts/gear.tfmprt");
-    const QString top = library.Make("top.tfmasm", {{gear, 2}});
-    library.Make("sub/other.tfmasm", {{library.Path("parts/pin.tfmprt")}});
-    library.Make("sub/derived.tfmprt", {}, {{gear, "mirrored"}});
-    LoadResources();
-    whereUsed pane;
-    pane.SetPartNameToSearch(gear, "gear");
-    pane.findChild<QLineEdit*>("wuLookin")->setText(library.Folder());
-    pane.Findnow();
-    const CellList& list = pane.findChild<CellListView*>("whereList")->List();
-    QCOMPARE(list.Count(), 2);
-    QCOMPARE(list.At(0).tag, top);
-    QCOMPARE(list.At(1).tag, library.Path("sub/derived.tfmprt"));
-    QCOMPARE(list.At(1).cells[1].text, gRelationPart);
-    QCOMPARE(list.At(1).cells[2].tag, gear);
 }
 
 DOCBENCH_TEST_MAIN(QApplication, TestWhereUsed)
