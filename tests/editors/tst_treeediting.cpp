@@ -129,6 +129,32 @@ void MayGoAway(const QString& which) {
     QVERIFY(!bench.pane);
 }
 
+// The pane gets another document behind the box that the one that was saved can't be read.
+template <typename Editor>
+void KeepsTheOther() {
+    Bench<Editor> bench;
+    bool fails = false;
+    FailingAccess access([&](const char* operation, const QString&) {
+        if (fails)
+            throw DocumentError("No.");
+        fails = operation == QLatin1String(Editor::kSave);
+    });
+    const QString other = bench.Load("other.tfmprt", {"theirs", "too"});
+    const QString told = bench.status.caption;
+    bench.Load("pin.tfmprt", {"a"});
+    bench.Type(2, "b");
+    bench.dialogs.Meanwhile([&] {
+        fails = false;
+        bench.pane->SetPartName("other", other);
+    });
+    bench.dialogs.Expect("*");
+    bench.Save();
+    QVERIFY(bench.dialogs.AllCame());
+    QCOMPARE(bench.Texts(), QStringList({"theirs", "too"}));
+    QCOMPARE(bench.status.caption, told);
+    bench.pane.reset();  // with the objects of this library
+}
+
 }  // namespace
 
 class TestTreeEditing : public QObject {
@@ -167,6 +193,11 @@ private Q_SLOTS:
         QFETCH(QString, which);
         MayGoAway<Configurations>(which);
         MayGoAway<Hyperlinks>(which);
+    }
+
+    void anotherDocumentMayComeBehindTheBoxOfASave() {
+        KeepsTheOther<Configurations>();
+        KeepsTheOther<Hyperlinks>();
     }
 };
 
