@@ -157,7 +157,7 @@ private Q_SLOTS:
     }
     void NoChangeOfTheDocumentsGoesUnseen() {
         QFETCH(quint32, seed);
-        constexpr int kSteps = 400;
+        constexpr int kSteps = 600;
         constexpr int kQuestionsAStep = 3;
         const QTemporaryDir home;
         GlobalIndexSettings() = {true, home.filePath("references.sqlite"), kGrain};
