@@ -12,5 +12,7 @@ set(DOCBENCH_DESIGNER ${CMAKE_INSTALL_LIBDIR}/qt6/plugins/designer)
 set(DOCBENCH_MAINTAINER "Tessaforma Docbench developers <docbench@tessaforma.example>")
 set(DOCBENCH_DEBIAN_REVISION 1)
 
-# An installed program finds its libraries beside itself, wherever the prefix is moved to.
+# A program finds its libraries beside itself, wherever the prefix is moved to, and in the build as well:
+# what CMake puts there otherwise ends in an empty entry, which stands for the working folder.
 set(CMAKE_INSTALL_RPATH "$ORIGIN")
+set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)

@@ -52,6 +52,29 @@ constexpr PaneId kPanesWithStatus[] = {
 constexpr PaneId kPanesToRelease[] = {PaneId::WhereUsed, PaneId::Copy, PaneId::Rename,
                                       PaneId::Search};
 
+Pane* MakePane(PaneId id) {
+    switch (id) {
+        case PaneId::Properties:
+            return new PropertiesBox;
+        case PaneId::References:
+            return new editReference;
+        case PaneId::Configurations:
+            return new editConfig;
+        case PaneId::Hyperlinks:
+            return new EditHyperLink;
+        case PaneId::WhereUsed:
+            return new whereUsed;
+        case PaneId::Rename:
+            return new renameRef;
+        case PaneId::Copy:
+            return new copyRef;
+        case PaneId::Search:
+            return new srcControl;
+        default:
+            return nullptr;
+    }
+}
+
 }  // namespace
 
 UserControl1::UserControl1(QWidget* parent)
@@ -73,17 +96,24 @@ UserControl1::UserControl1(QWidget* parent)
     UseWebFolders();
     PrepareScratch();
     AddPane(PaneId::Preview, new PreviewPane);
-    AddPane(PaneId::Properties, new PropertiesBox);
-    AddPane(PaneId::References, new editReference);
-    AddPane(PaneId::Configurations, new editConfig);
-    AddPane(PaneId::Hyperlinks, new EditHyperLink);
-    AddPane(PaneId::WhereUsed, new whereUsed);
-    AddPane(PaneId::Rename, new renameRef);
-    AddPane(PaneId::Copy, new copyRef);
-    auto* options = new setup;
+    auto* options = new setup;  // tells the others of its options
     AddPane(PaneId::Setup, options);
     connect(options, &setup::SetupChanged, this, [this] { RefreshTree(QString()); });
-    AddPane(PaneId::Search, new srcControl);
+}
+
+// The others are made when they are first shown: together they take longer than all else at the
+// start.
+Pane* UserControl1::WantedPane(PaneId id) {
+    if (Pane* pane = PaneOf(id))
+        return pane;
+    Pane* made = MakePane(id);
+    if (!made)
+        return nullptr;
+    AddPane(id, made);
+    const auto known = enabled_.constFind(id);
+    if (known != enabled_.constEnd())
+        made->Enable(*known);
+    return made;
 }
 
 UserControl1::~UserControl1() {
@@ -174,7 +204,7 @@ void UserControl1::showResult(const QString& request, const QString& path,
     const PaneCommand* command = FindPaneCommand(request);
     if (command)
         ui_->LabelInfo->setText(Tr(command->heading) + u' ');
-    if (command && PaneOf(command->pane))
+    if (command && WantedPane(command->pane))
         ShowPane(*command, path, partName);
     else
         ui_->Label1->show();
@@ -485,10 +515,11 @@ void UserControl1::LockBelowSelected(bool wantLocked) {
 }
 
 void UserControl1::EnableEditors(bool hyperlinks, bool configurations) {
-    if (Pane* pane = PaneOf(PaneId::Hyperlinks))
-        pane->Enable(hyperlinks);
-    if (Pane* pane = PaneOf(PaneId::Configurations))
-        pane->Enable(configurations);
+    enabled_ = {{PaneId::Hyperlinks, hyperlinks}, {PaneId::Configurations, configurations}};
+    for (auto editor = enabled_.cbegin(); editor != enabled_.cend(); ++editor) {
+        if (Pane* pane = PaneOf(editor.key()))
+            pane->Enable(editor.value());
+    }
 }
 
 void UserControl1::SetStatusText(const QString& text) {

@@ -1,6 +1,7 @@
 // The document pane shell: the open document, its reference tree, and the pane that shows it.
 #pragma once
 
+#include <QMap>
 #include <QPointer>
 #include <QVariantMap>
 #include <QWidget>
@@ -88,7 +89,8 @@ private:
     void ConnectTree();
     void ConnectWaysIn();
 
-    Pane* PaneOf(PaneId id) const { return panes_[size_t(id)]; }
+    Pane* PaneOf(PaneId id) const { return panes_[size_t(id)]; }  // null if it was never shown
+    Pane* WantedPane(PaneId id);
     void ShowPane(const PaneCommand& command, const QString& path, const QString& partName);
     void PassStatusBar(QObject* statusBar);
     bool ShowDesc() const;
@@ -117,6 +119,8 @@ private:
     std::unique_ptr<Ui::UserControl1> ui_;
     std::unique_ptr<ReferenceTree> tree_;
     std::array<QPointer<Pane>, kPaneCount> panes_;
+    QMap<PaneId, bool>
+        enabled_;  // what editors were told last, for those that are still to be made
 
     QMenu* mnEdit = nullptr;
     QAction* mnopen = nullptr;

@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QPushButton>
 
+#include "editors/editconfig.h"
 #include "services/language.h"
 #include "services/loggingmanager.h"
 #include "services/settingsstore.h"
@@ -31,6 +32,7 @@ private Q_SLOTS:
     void anUnknownCodeShowsTheLabelAndIsKept();
     void showResultDoesNotChangeTheCurrentFunction();
     void theEditorsFollowTheLockButTheReferenceListDoesNot();
+    void aPaneIsMadeWhenItIsFirstShownAndKnowsTheLock();
     void theSearchPaneGetsTheCurrentDocumentWhateverThePath();
     void renameReplaceAndCopyGetTheChainAndAnEmptyDocumentToo();
     void openingFromAWebFolderIsNotTakenForACommand();
@@ -145,6 +147,19 @@ void TestUserControl1::theEditorsFollowTheLockButTheReferenceListDoesNot() {
     bench.Click(2);
     bench.shell.SetCurrentFunction(QStringLiteral("EDIT"));
     QCOMPARE(editor->calls.last(), QStringLiteral("Enable 1"));
+}
+
+void TestUserControl1::aPaneIsMadeWhenItIsFirstShownAndKnowsTheLock() {
+    Bench bench;
+    bench.library.Lock(bench.pin, QStringLiteral("somebody"));
+    bench.Open();
+    bench.Click(3);
+    QVERIFY(!bench.shell.findChild<editConfig*>());
+    bench.shell.SetCurrentFunction(QStringLiteral("EDIT"));
+    QVERIFY(bench.shell.findChild<editConfig*>());
+    QVERIFY(!bench.Child<QWidget>("tvwconfig")->isEnabled());
+    bench.Click(2);
+    QVERIFY(bench.Child<QWidget>("tvwconfig")->isEnabled());
 }
 
 void TestUserControl1::theSearchPaneGetsTheCurrentDocumentWhateverThePath() {
