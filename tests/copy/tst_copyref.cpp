@@ -147,6 +147,17 @@ private Q_SLOTS:
         QVERIFY(bench.Line("toFile")->text().startsWith(bench.folder));
     }
 
+    void withoutAPrefixTheNamesStayAndNothingStopsTheSameFolder() {
+        CopyBench bench;
+        bench.Load();
+        bench.Line("prefix")->clear();
+        QCOMPARE(bench.Target(0).tag, bench.folder + "/left.tfmasm");
+        bench.Line("targetPath")->setText(bench.library.Folder());
+        QCOMPARE(bench.Target(0).tag, bench.left);
+        QCOMPARE(bench.Line("toFile")->text(), bench.top);
+        QVERIFY(bench.IsEnabled("apply"));
+    }
+
     void inShortFormOnlyAFolderGivesWholePathsBack() {
         CopyBench bench;
         bench.Load();
@@ -364,6 +375,25 @@ private Q_SLOTS:
         QCOMPARE(bench.List(1).Count(), 0);
         QCOMPARE(bench.Button("Findnow")->text(), gStrings[17]);
         QVERIFY(bench.IsEnabled("apply"));
+    }
+
+    void aSearchThatIsStoppedKeepsItsRows() {
+        CopyBench bench;
+        bench.Load();
+        bench.library.Make("sub/user.tfmasm", {{bench.top}});
+        bool isStopped = false;
+        QTimer::singleShot(0, bench.pane, [&] {      // before the first folder
+            QTimer::singleShot(0, bench.pane, [&] {  // and before the next one
+                bench.Click("Findnow");
+                isStopped = true;
+            });
+        });
+        bench.Click("Findnow");
+        QVERIFY(isStopped);
+        QCOMPARE(bench.List(1).Count(), 2);
+        for (const CellRow& row : bench.List(1).Rows())
+            QVERIFY(ReadParentRow(row).parent == bench.whole ||
+                    ReadParentRow(row).parent == bench.drawing);
     }
 
     void aSearchEndsWithThePaneOrForAnotherDocument() {

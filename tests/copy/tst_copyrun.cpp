@@ -218,11 +218,19 @@ private Q_SLOTS:
 
     void aDocumentThatIsItsOwnTargetIsAskedAboutAndNotCopied() {
         Desk desk;
-        desk.target = desk.top;
-        QString reason;
-        desk.Run();
+        // An empty prefix and the document's own folder.
+        desk.target = TargetIn(FolderNoSeparator(desk.top), CopyName({}, FileNameOf(desk.top)));
+        QCOMPARE(desk.target, desk.top);
+        FakeFiles files;
+        bool isTried = false;
+        bool isCopied = false;
+        files.before = [&](const QString&, const QString& to) { isTried |= to == desk.top; };
+        files.after = [&](const QString&, const QString& to) { isCopied |= to == desk.top; };
+        const CopyResult result = desk.Run();
         QCOMPARE(desk.dialogs.boxes, QStringList(Format(Text::OverwriteQuestion, desk.top)));
-        QCOMPARE(desk.status.filter(Format(Text::CopyingTo, desk.top)).size(), 1);
+        QVERIFY(isTried && !isCopied);  // the disk refuses
+        QVERIFY(result.end == CopyResult::End::Done);
+        QCOMPARE(result.copied, 3);
     }
 
     // What stands at the target then is somebody's, and no user of the document may lead there.

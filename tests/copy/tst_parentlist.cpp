@@ -139,6 +139,7 @@ private Q_SLOTS:
         desk.Find();
         QVERIFY(!desk.Parent(0).ticked);
         QCOMPARE(desk.Parent(0).cells[kParentHolder].foreColor, kColorRed);
+        QCOMPARE(desk.Shown(0, kParentHolder), "pin.tfmdrw" + gStrings[78]);
         QCOMPARE(desk.Shown(0, kParentTarget), QString());
         GoToNextState(desk.parents, 0);
         QVERIFY(IsCopied(desk.Parent(0)));
