@@ -16,7 +16,6 @@
 #include "services/docaccess.h"
 #include "services/documentlibrary.h"
 #include "services/errorstate.h"
-#include "services/exporttable.h"
 #include "services/language.h"
 #include "services/paths.h"
 #include "services/seams.h"
@@ -578,16 +577,9 @@ void copyRef::OpenParentRow() {
 }
 
 void copyRef::Export(const std::optional<TextTable>& table) {
-    const QPointer<copyRef> alive(this);
     if (!table)
         return Warn(Tr(Text::ExportEmpty));
-    QString where;
-    const bool done = ExportToSpreadsheet(table, &where);
-    if (!alive)
-        return;
-    SetStatusText(done ? Format(Text::ExportDone, int(table->size()) - 1)
-                       : QString(Tr(Text::ExportFailed)));
-    ui_->lblProgress->setText(where);
+    ExportFrom(*this, table, *ui_->lblProgress);
 }
 
 }  // namespace docbench

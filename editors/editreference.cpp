@@ -137,14 +137,7 @@ void editReference::OpenSelected() {
 }
 
 void editReference::ExportRows() {
-    const QPointer<editReference> alive(this);
-    QString where;
-    const QString told = ExportList(*ui_->lv, where);
-    if (!alive)
-        return;  // behind the box of an export that failed
-    SetStatusText(told);
-    if (!where.isEmpty())
-        ui_->lblProgress->setText(where);
+    ExportFrom(*this, ListToTable(ui_->lv->List()), *ui_->lblProgress);
 }
 
 }  // namespace docbench

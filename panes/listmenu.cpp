@@ -1,11 +1,14 @@
 #include "panes/listmenu.h"
 
+#include <QLabel>
+#include <QPointer>
+
 #include "panes/celllistview.h"
 #include "services/exporttable.h"
 #include "services/language.h"
-#include "services/listtable.h"
 #include "services/openexternal.h"
 #include "services/texts.h"
+#include "shell/pane.h"
 
 namespace docbench {
 
@@ -33,11 +36,16 @@ void OpenDocumentInCad(const QString& path) {
                            1);
 }
 
-QString ExportList(const CellListView& list, QString& where) {
-    const std::optional<TextTable> table = ListToTable(list.List());
-    return ExportToSpreadsheet(table, &where)
-               ? Format(Text::ExportDone, QString::number(table->size() - 1))
-               : QString(Tr(Text::ExportFailed));
+void ExportFrom(Pane& pane, const std::optional<TextTable>& table, QLabel& place) {
+    const QPointer<Pane> alive(&pane);
+    QString where;
+    const bool done = ExportToSpreadsheet(table, &where);
+    if (!alive)
+        return;
+    pane.SetStatusText(done ? Format(Text::ExportDone, QString::number(table->size() - 1))
+                            : QString(Tr(Text::ExportFailed)));
+    if (!where.isEmpty())
+        place.setText(where);
 }
 
 }  // namespace docbench

@@ -3,12 +3,18 @@
 
 #include <QMenu>
 #include <functional>
+#include <optional>
+
+#include "services/listtable.h"
+
+class QLabel;
 
 class QAction;
 
 namespace docbench {
 
 class CellListView;
+class Pane;
 
 class ListMenu : public QMenu {
     Q_OBJECT
@@ -38,7 +44,8 @@ private:
 // Opens a document in the CAD application, by the verb "Open".
 void OpenDocumentInCad(const QString& path);
 
-// Exports a list; gives the status text that tells how it went, and in `where` the file.
-QString ExportList(const CellListView& list, QString& where);
+// Exports a table. The pane's status line tells how it went, and `place`, a label of the pane,
+// where the file is. The pane may go away behind the box of a failure.
+void ExportFrom(Pane& pane, const std::optional<TextTable>& table, QLabel& place);
 
 }  // namespace docbench

@@ -14,7 +14,6 @@
 #include "services/docaccess.h"
 #include "services/documentlibrary.h"
 #include "services/errorstate.h"
-#include "services/exporttable.h"
 #include "services/filesystem.h"
 #include "services/language.h"
 #include "services/paths.h"
@@ -463,11 +462,7 @@ void renameRef::ExportRows() {
     const std::optional<TextTable> table = PackRenameList(ui_->lv->List());
     if (!table)
         return Warn(Tr(Text::ExportEmpty));
-    QString where;
-    const bool done = ExportToSpreadsheet(table, &where);
-    SetStatusText(done ? Format(Text::ExportDone, QString::number(table->size() - 1))
-                       : QString(Tr(Text::ExportFailed)));
-    ui_->lblProgress->setText(where);
+    ExportFrom(*this, table, *ui_->lblProgress);
 }
 
 }  // namespace docbench

@@ -458,14 +458,7 @@ void srcControl::OpenSelected() {
 }
 
 void srcControl::ExportRows() {
-    const QPointer<srcControl> alive(this);
-    QString where;
-    const QString told = ExportList(*ui_->srcResultlist, where);
-    if (!alive)
-        return;  // behind the box of an export that failed
-    SetStatusText(told);
-    if (!where.isEmpty())
-        ui_->srcProgress->setText(where);
+    ExportFrom(*this, ListToTable(ui_->srcResultlist->List()), *ui_->srcProgress);
 }
 
 }  // namespace docbench

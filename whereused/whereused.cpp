@@ -356,14 +356,7 @@ void whereUsed::OpenSelected() {
 }
 
 void whereUsed::ExportRows() {
-    const QPointer<whereUsed> alive(this);
-    QString where;
-    const QString told = ExportList(*ui_->whereList, where);
-    if (!alive)
-        return;  // behind the box of an export that failed
-    SetStatusText(told);
-    if (!where.isEmpty())
-        ui_->wuProgress->setText(where);
+    ExportFrom(*this, ListToTable(ui_->whereList->List()), *ui_->wuProgress);
 }
 
 }  // namespace docbench

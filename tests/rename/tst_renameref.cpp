@@ -348,6 +348,18 @@ private Q_SLOTS:
         QCOMPARE(bench.status.caption, Format(Text::ExportDone, "2"));
     }
 
+    void thePaneMayGoAwayBehindTheBoxOfAFailedExport() {
+        Bench bench;
+        bench.Load();
+        bench.Find();
+        FakeSpreadsheet spreadsheet;
+        spreadsheet.fails = true;
+        bench.dialogs.Expect("*", Dialogs::Icon::None);
+        bench.dialogs.Meanwhile([&] { bench.pane.reset(); });
+        QMetaObject::invokeMethod(bench.pane->findChild<QAction*>("mnexport"), "trigger");
+        QVERIFY(!bench.pane);
+    }
+
     void theSearchStopsByItsOwnButton() {
         Bench bench;
         bench.library.Make("a/one.tfmasm", {{bench.pin}});
