@@ -8,7 +8,6 @@
 #include "services/listtable.h"
 
 class QLabel;
-
 class QAction;
 
 namespace docbench {
